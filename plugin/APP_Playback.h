@@ -1,0 +1,13 @@
+#pragma once
+
+#include "plugin/SyncGlobal.h"
+
+// Facet of the host: playback of files and memory.
+class SYNC_SHARED APP_Playback
+{
+public:
+    virtual ~APP_Playback() = default;
+
+    virtual void pausePlayback() = 0;
+    virtual void resumePlayback() = 0;
+};

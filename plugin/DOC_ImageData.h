@@ -1,0 +1,22 @@
+#pragma once
+
+#include "plugin/SyncGlobal.h"
+
+#include <QPoint>
+#include <QSize>
+#include <QString>
+
+// Facet of a document: image geometry and comment.
+class SYNC_SHARED DOC_ImageData
+{
+public:
+    virtual ~DOC_ImageData() = default;
+
+    virtual QSize imageSize(QSize& out) = 0;
+    virtual void setCursorPosition(const QPoint& imagePos) = 0;
+    virtual void extent(QSize& out) = 0;
+    virtual void viewToImage(QPoint& out, const QPoint& viewPos, bool clip) = 0;
+    virtual bool isRotatedQuarter() = 0;
+    virtual QString& comment(QString& out) = 0;
+    virtual void setComment(const QString& text) = 0;
+};
