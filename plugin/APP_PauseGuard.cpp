@@ -1,0 +1,44 @@
+#include "plugin/APP_PauseGuard.h"
+
+#include "plugin/APP_Host.h"
+#include "plugin/DOC_Interface.h"
+
+#include <QMutex>
+
+APP_PauseGuard::APP_PauseGuard(APP_Host* host, bool refresh, bool restart)
+    : m_host(host)
+    , m_refresh(refresh)
+    , m_restart(restart)
+    , m_cameraMode(host->isCameraMode())
+{
+    // Goes on without the lock: a pause that did not get it still pauses and resumes.
+    m_mutex = host->documentMutex();
+    m_locked = m_mutex && m_mutex->tryLock(1);
+    if (m_cameraMode)
+        host->pauseLiveLoop(false);
+    else
+        host->pausePlayback();
+}
+
+APP_PauseGuard::~APP_PauseGuard()
+{
+    if (!m_cameraMode) {
+        m_host->resumePlayback();
+    } else {
+        if (m_restart && m_host->needsRestart()) {
+            QList<int> keys;
+            m_host->liveDocumentKeys(keys, 0);
+            for (const int key : qAsConst(keys)) {
+                if (DOC_Interface* doc = m_host->document(key, true))
+                    static_cast<DOC_Feed*>(doc)->restart(true);
+            }
+        }
+        m_host->resumeLive();
+        if (m_refresh) {
+            m_host->refreshAfterPause();
+            m_host->refreshViewsAfterPause();
+        }
+    }
+    if (m_locked)
+        m_mutex->unlock();
+}
