@@ -1,0 +1,76 @@
+#include "SessionRegistry.h"
+
+#include "VisaSession.h"
+
+#include <vector>
+
+SessionRegistry &SessionRegistry::instance()
+{
+    // Never destroyed: a session still open when the library unloads must not be torn down
+    // from a static destructor in an unknown order.
+    static SessionRegistry *registry = new SessionRegistry;
+    return *registry;
+}
+
+ViSession SessionRegistry::addResourceManager()
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const ViSession handle = m_nextHandle++;
+    m_entries[handle] = Entry();
+    return handle;
+}
+
+bool SessionRegistry::isResourceManager(ViSession handle)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const auto it = m_entries.find(handle);
+    return it != m_entries.end() && !it->second.session;
+}
+
+ViSession SessionRegistry::addSession(ViSession resourceManager, std::shared_ptr<VisaSession> session)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const auto rm = m_entries.find(resourceManager);
+    if (rm == m_entries.end() || rm->second.session)
+        return 0;
+    const ViSession handle = m_nextHandle++;
+    m_entries[handle] = Entry{resourceManager, std::move(session)};
+    return handle;
+}
+
+std::shared_ptr<VisaSession> SessionRegistry::find(ViSession handle)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const auto it = m_entries.find(handle);
+    return it == m_entries.end() ? nullptr : it->second.session;
+}
+
+ViStatus SessionRegistry::close(ViSession handle)
+{
+    std::vector<std::shared_ptr<VisaSession>> closing;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        const auto it = m_entries.find(handle);
+        if (it == m_entries.end())
+            return VI_ERROR_INV_OBJECT;
+        if (it->second.session) {
+            closing.push_back(it->second.session);
+        } else {
+            for (auto child = m_entries.begin(); child != m_entries.end();) {
+                if (child->second.owner == handle) {
+                    closing.push_back(child->second.session);
+                    child = m_entries.erase(child);
+                } else {
+                    ++child;
+                }
+            }
+        }
+        m_entries.erase(handle);
+    }
+    // destroy_link goes out here, outside the table lock, one session at a time.
+    for (const auto &session : closing) {
+        std::lock_guard<std::mutex> lock(session->mutex());
+        session->close();
+    }
+    return VI_SUCCESS;
+}
