@@ -1,5 +1,7 @@
 #include "sync/GUI_SyncControl.h"
 
+#include "ui_GUI_SyncControl.h"
+
 #include "plugin/APP_CameraTypeRecord.h"
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
@@ -9,6 +11,7 @@
 #include "util/FunctionLogGuard.h"
 #include "util/ScopeExit.h"
 #include "util/UTL_Messages.h"
+#include "util/UserOperationLog.h"
 
 #include <QKeyEvent>
 
@@ -28,11 +31,10 @@ auto exitFrame(GUI_SyncControl* dialog, const QString& function)
 
 GUI_SyncControl::GUI_SyncControl(APP_Host* host, QWidget* parent)
     : GUI_Dialog(parent, Qt::WindowFlags(), true)
+    , m_ui(new Ui_GUI_SyncControl)
     , m_host(host)
 {
-    if (objectName().isEmpty())
-        setObjectName(QStringLiteral("GUI_SyncControl"));
-    resize(FormWidth, FormHeight);
+    m_ui->setupUi(this);
     setMinimumSize(size());
     setMaximumSize(size());
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -50,13 +52,33 @@ GUI_SyncControl::~GUI_SyncControl()
     } catch (const std::exception& e) {
         m_host->reportException(e);
     }
+    delete m_ui;
 }
 
 int GUI_SyncControl::exec()
 {
     init();
     UTL_Messages::setNativeStyle(m_host, this);
+    m_ui->ok_button->setText(m_host->translate(QStringLiteral("Sync execute")));
+    m_ui->cancel_button->setText(m_host->translate(QStringLiteral("Sync quit")));
+    m_ui->ok_button->setEnabled(m_syncPossible);
     return QDialog::exec();
+}
+
+// The sync itself and the question on leaving come with the rest of the form.
+void GUI_SyncControl::on_cancel_button_clicked()
+{
+    logUserOperation(QStringLiteral("GUI_SyncControl"),
+                     QStringLiteral("GUI_SyncControl::on_cancel_button_clicked"),
+                     QStringLiteral("Button"), QStringLiteral("clicked"), QString());
+    reject();
+}
+
+void GUI_SyncControl::on_ok_button_clicked()
+{
+    logUserOperation(QStringLiteral("GUI_SyncControl"),
+                     QStringLiteral("GUI_SyncControl::on_ok_button_clicked"),
+                     QStringLiteral("Button"), QStringLiteral("clicked"), QString());
 }
 
 void GUI_SyncControl::init()
@@ -206,11 +228,20 @@ void GUI_SyncControl::guiUpdate()
             break;
         }
     }
+    if (!m_syncPossible)
+        m_ui->ok_button->setEnabled(false);
 }
 
 void GUI_SyncControl::keyPressEvent(QKeyEvent* event)
 {
-    // Only Return and Enter act; everything else, Escape included, is dropped.
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        QDialog::keyPressEvent(event);
+    // Only Return and Enter act, on the focused button; everything else, Escape included, is
+    // dropped.
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return;
+    for (QPushButton* button : {m_ui->ok_button, m_ui->cancel_button}) {
+        if (button->hasFocus()) {
+            button->click();
+            return;
+        }
+    }
 }

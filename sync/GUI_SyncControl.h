@@ -8,6 +8,7 @@
 class APP_Host;
 class DOC_Camera;
 class DOC_SignalGenerator;
+class Ui_GUI_SyncControl;
 
 // The modal dialog in which the user settles how all connected cameras are synchronised.
 // One object lives as long as the plug-in and serves every press of the button; each run
@@ -38,12 +39,17 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
+private slots:
+    void on_cancel_button_clicked();
+    void on_ok_button_clicked();
+
 private:
     void init();
     void checkSyncConditions();
     void guiInit();
     void startHubManager();
 
+    Ui_GUI_SyncControl* m_ui;
     APP_Host* m_host;
     int m_triggerMode = 0;
     QList<DOC_Camera*> m_cameras;
