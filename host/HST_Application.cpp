@@ -1,0 +1,275 @@
+#include "host/HST_Application.h"
+
+#include "host/HST_Host.h"
+#include "host/HST_MainWindow.h"
+#include "host/HST_PluginLoader.h"
+#include "host/HST_Preferences.h"
+#include "host/HST_Recorder.h"
+#include "host/HST_Scenario.h"
+#include "host/HST_ScriptRunner.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+void printLine(FILE* stream, const QString& text)
+{
+    std::fprintf(stream, "tarvix4host: %s\n", qPrintable(text));
+    std::fflush(stream);
+}
+
+} // namespace
+
+QString HST_Application::defaultPluginFile()
+{
+#ifdef HST_DEFAULT_PLUGIN_FILE
+    return QStringLiteral(HST_DEFAULT_PLUGIN_FILE);
+#else
+    return QString();
+#endif
+}
+
+const char* HST_Application::visaLibraryVariable()
+{
+    return "SYNC_VISA_LIBRARY";
+}
+
+bool HST_Application::parseArguments(const QStringList& arguments, HST_Options& options,
+                                     QString& error)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Reference host for the synccontrol plug-in"));
+    parser.addHelpOption();
+    const QCommandLineOption scenario(QStringLiteral("scenario"), QStringLiteral("Scenario file (JSON)."), QStringLiteral("FILE"));
+    const QCommandLineOption plugin(QStringLiteral("plugin"), QStringLiteral("Plug-in file to load."), QStringLiteral("FILE"));
+    const QCommandLineOption prefs(QStringLiteral("prefs"), QStringLiteral("Preferences file (INI)."), QStringLiteral("FILE"));
+    const QCommandLineOption translations(QStringLiteral("translations"), QStringLiteral("Translation file (.qm)."), QStringLiteral("FILE"));
+    const QCommandLineOption press(QStringLiteral("press"), QStringLiteral("Press the button of this plug-in once the window shows."), QStringLiteral("NAME"));
+    const QCommandLineOption script(QStringLiteral("script"), QStringLiteral("Steps to run against modal windows (JSON)."), QStringLiteral("FILE"));
+    const QCommandLineOption answer(QStringLiteral("answer"), QStringLiteral("Buttons to click, in order, after the script."), QStringLiteral("A,B,C"));
+    const QCommandLineOption record(QStringLiteral("record"), QStringLiteral("Write every event as a JSON line."), QStringLiteral("FILE"));
+    const QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Save the active window at the end."), QStringLiteral("FILE"));
+    const QCommandLineOption quit(QStringLiteral("quit"), QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
+    parser.addOptions({scenario, plugin, prefs, translations, press, script, answer, record,
+                       screenshot, quit});
+    if (!parser.parse(arguments)) {
+        error = parser.errorText();
+        return false;
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        options.help = true;
+        error = parser.helpText();
+        return true;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        error = QStringLiteral("unexpected argument: %1").arg(parser.positionalArguments().first());
+        return false;
+    }
+    options.scenarioFile = parser.value(scenario);
+    options.pluginFile = parser.value(plugin);
+    options.prefsFile = parser.value(prefs);
+    options.translationsFile = parser.value(translations);
+    options.press = parser.value(press);
+    options.scriptFile = parser.value(script);
+    for (const QString& value : parser.values(answer))
+        options.answers += value.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    options.recordFile = parser.value(record);
+    options.screenshotFile = parser.value(screenshot);
+    options.quit = parser.isSet(quit);
+    return true;
+}
+
+HST_Application::HST_Application(const HST_Options& options, QObject* parent)
+    : QObject(parent), m_options(options)
+{
+}
+
+HST_Application::~HST_Application()
+{
+    // The plug-in's destructor still talks to the host and may write preferences.
+    if (m_script)
+        m_script->stop();
+    if (m_loader)
+        m_loader->release();
+    m_window.reset();
+    m_host.reset();
+    m_recorder.reset();
+}
+
+bool HST_Application::isInteractive() const
+{
+    return m_options.press.isEmpty() && m_options.scriptFile.isEmpty() && m_options.steps.isEmpty()
+           && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit;
+}
+
+PLG_Interface* HST_Application::plugin() const
+{
+    return m_loader ? m_loader->plugin() : nullptr;
+}
+
+int HST_Application::refuse(int code, const QString& message)
+{
+    m_error = message;
+    m_exitCode = code;
+    printLine(stderr, message);
+    if (m_recorder)
+        m_recorder->record(QStringLiteral("hostError"),
+                           {{QStringLiteral("code"), code}, {QStringLiteral("text"), message}});
+    if (isInteractive())
+        QMessageBox::critical(m_window.get(), QStringLiteral("tarvix4host"), message);
+    return code;
+}
+
+int HST_Application::start()
+{
+    m_recorder.reset(new HST_Recorder(m_options.recordFile));
+    if (!m_recorder->isOpen())
+        return refuse(BadInput, m_recorder->errorString());
+
+    HST_Scenario scenario;
+    QString problem;
+    if (!m_options.scenarioJson.isEmpty()) {
+        if (!HST_Scenario::fromJson(m_options.scenarioJson, QStringLiteral("(scenario text)"),
+                                    scenario, problem))
+            return refuse(BadInput, problem);
+    } else if (!m_options.scenarioFile.isEmpty()) {
+        if (!HST_Scenario::fromFile(m_options.scenarioFile, scenario, problem))
+            return refuse(BadInput, problem);
+    }
+
+    QJsonArray steps;
+    if (!m_options.scriptFile.isEmpty()) {
+        QFile file(m_options.scriptFile);
+        if (!file.open(QIODevice::ReadOnly))
+            return refuse(BadInput, QStringLiteral("%1: cannot read the script: %2")
+                                        .arg(m_options.scriptFile, file.errorString()));
+        if (!HST_ScriptRunner::parse(file.readAll(), m_options.scriptFile, steps, problem))
+            return refuse(BadInput, problem);
+    }
+    for (const QJsonValue& step : qAsConst(m_options.steps))
+        steps.append(step);
+    for (const QJsonValue& step : HST_ScriptRunner::answerSteps(m_options.answers))
+        steps.append(step);
+
+    const QString prefsPath = m_options.prefsFile.isEmpty() ? HST_Preferences::defaultPath()
+                                                            : m_options.prefsFile;
+    m_host.reset(new HST_Host(scenario, m_recorder.get(), prefsPath));
+    printLine(stdout, QStringLiteral("preferences in %1").arg(m_host->preferences()->path()));
+    if (!m_options.translationsFile.isEmpty()
+        && !m_host->loadTranslations(m_options.translationsFile, problem))
+        return refuse(BadInput, problem);
+
+    // The plug-in looks for the VISA library by this variable; a path that can't exist hides it.
+    if (!scenario.visa)
+        qputenv(visaLibraryVariable(), QByteArrayLiteral("/nonexistent/visa-not-offered"));
+#ifdef HST_VISA_LIBRARY_FILE
+    else if (qEnvironmentVariableIsEmpty(visaLibraryVariable()))
+        qputenv(visaLibraryVariable(), QByteArrayLiteral(HST_VISA_LIBRARY_FILE));
+#endif
+
+    m_window.reset(new HST_MainWindow(m_host.get()));
+    m_host->setMainWindow(m_window.get());
+    m_script.reset(new HST_ScriptRunner(m_recorder.get()));
+    m_script->setSteps(steps);
+    m_script->setStepTimeout(m_options.stepTimeoutMs);
+    m_script->setIdleWindow(m_window.get(), [this] { return m_window->isPluginRunning(); });
+    connect(m_script.get(), &HST_ScriptRunner::finished, this, &HST_Application::checkFinished,
+            Qt::QueuedConnection);
+    connect(m_window.get(), &HST_MainWindow::executeFinished, this,
+            &HST_Application::checkFinished, Qt::QueuedConnection);
+
+    const QString pluginFile = m_options.pluginFile.isEmpty() ? defaultPluginFile()
+                                                              : m_options.pluginFile;
+    m_loader.reset(new HST_PluginLoader(pluginFile));
+    if (!m_loader->load(m_host.get(), problem))
+        return refuse(PluginFailed, problem);
+    m_window->addPlugin(m_loader->plugin());
+    m_started = true;
+    m_recorder->record(QStringLiteral("start"),
+                       {{QStringLiteral("plugin"), pluginFile},
+                        {QStringLiteral("name"), m_loader->name()},
+                        {QStringLiteral("prefs"), m_host->preferences()->path()}});
+    return Success;
+}
+
+int HST_Application::run()
+{
+    const int code = start();
+    // An interactive host goes on without a plug-in it couldn't load.
+    if (code != Success && !(code == PluginFailed && isInteractive() && m_window))
+        return code;
+    m_window->show();
+    if (isInteractive())
+        connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { finish(m_exitCode); });
+    QTimer::singleShot(0, this, &HST_Application::afterShow);
+    m_loop.exec();
+    return m_exitCode;
+}
+
+void HST_Application::afterShow()
+{
+    m_script->start();
+    if (!m_options.press.isEmpty() && m_started) {
+        if (!m_window->pluginAction(m_options.press)) {
+            refuse(ScriptFailed, QStringLiteral("--press: no plug-in button named \"%1\"")
+                                     .arg(m_options.press));
+            finish(ScriptFailed);
+            return;
+        }
+        m_pressDone = false;
+        m_window->press(m_options.press);
+        m_pressDone = true;
+    }
+    checkFinished();
+}
+
+void HST_Application::checkFinished()
+{
+    if (m_finished)
+        return;
+    if (m_script->hasFailed()) {
+        // The runner is closing the plug-in's windows; leave once its execute has returned.
+        if (!m_window->isPluginRunning() && m_pressDone) {
+            m_error = m_script->failure();
+            printLine(stderr, m_error);
+            finish(ScriptFailed);
+        }
+        return;
+    }
+    if (!m_options.quit || !m_pressDone || m_window->isPluginRunning() || !m_script->isFinished())
+        return;
+    finish(m_exitCode);
+}
+
+void HST_Application::finish(int code)
+{
+    if (m_finished)
+        return;
+    m_finished = true;
+    m_exitCode = code;
+    m_script->stop();
+    saveScreenshot();
+    m_recorder->record(QStringLiteral("finish"), {{QStringLiteral("code"), code}});
+    m_loop.exit(code);
+}
+
+void HST_Application::saveScreenshot()
+{
+    if (m_options.screenshotFile.isEmpty())
+        return;
+    QWidget* window = QApplication::activeModalWidget();
+    if (!window)
+        window = QApplication::activeWindow();
+    if (!window)
+        window = m_window.get();
+    if (!window->grab().save(m_options.screenshotFile))
+        printLine(stderr, QStringLiteral("cannot write the screenshot %1").arg(m_options.screenshotFile));
+    else
+        printLine(stdout, QStringLiteral("screenshot in %1").arg(m_options.screenshotFile));
+}

@@ -1,0 +1,239 @@
+#include "host/HST_Document.h"
+
+#include "host/HST_CameraState.h"
+#include "host/HST_Recorder.h"
+
+#include <QDate>
+#include <QVariantMap>
+
+HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex)
+    : m_key(key), m_camera(camera), m_documentIndex(documentIndex)
+{
+}
+
+DOC_Camera* HST_Document::asCamera()
+{
+    return m_camera ? m_camera->primary : nullptr;
+}
+
+void HST_Document::heads(QList<DOC_Interface*>& out, bool)
+{
+    out.clear();
+    out.append(this);
+}
+
+QString& HST_Document::filePath(QString& out)
+{
+    out = m_camera ? QString() : QStringLiteral("/simulated/file-%1.dat").arg(m_documentIndex + 1);
+    return out;
+}
+
+QString& HST_Document::deviceName(QString& out)
+{
+    out = m_camera ? m_camera->spec.name : QString();
+    return out;
+}
+
+QString& HST_Document::baseName(QString& out)
+{
+    out = m_camera ? m_camera->spec.name : QStringLiteral("file-%1").arg(m_documentIndex + 1);
+    return out;
+}
+
+QString& HST_Document::partitionName(QString& out, int partition)
+{
+    out = QStringLiteral("Partition %1").arg(partition);
+    return out;
+}
+
+QString& HST_Document::sortName(QString& out)
+{
+    return baseName(out);
+}
+
+QSize HST_Document::imageSize(QSize& out)
+{
+    out = imageSizeValue();
+    return out;
+}
+
+QSize HST_Document::imageSizeValue() const
+{
+    return QSize(1024, 1024);
+}
+
+QString HST_Document::ipAddress(bool)
+{
+    return m_camera ? m_camera->spec.ip : QString();
+}
+
+int HST_Document::cameraType()
+{
+    return m_camera ? m_camera->spec.type : 0;
+}
+
+QString HST_Document::cameraName(bool)
+{
+    return m_camera ? m_camera->spec.name : QString();
+}
+
+QString HST_Document::modelText(bool)
+{
+    return m_camera ? m_camera->spec.model : QString();
+}
+
+int HST_Document::deviceNumber()
+{
+    return m_camera ? m_camera->index : 0;
+}
+
+QString& HST_Document::recordingDate(QString& out)
+{
+    out = QDate::currentDate().toString(QStringLiteral("yyyy/M/d"));
+    return out;
+}
+
+QString& HST_Document::recordingTime(QString& out)
+{
+    out = QStringLiteral("12:00:00");
+    return out;
+}
+
+int HST_Document::triggerMode()
+{
+    return m_camera ? m_camera->spec.triggerMode : 0;
+}
+
+bool HST_Document::isFunctionSupported(int functionId, bool)
+{
+    // 116: recorded data must be erased before a sync; the only function the scenario models.
+    return m_camera && functionId == 116 && m_camera->spec.needsErase;
+}
+
+void HST_Document::firmwareVersion(QString& out)
+{
+    out = m_camera ? QStringLiteral("1.00") : QString();
+}
+
+int HST_Document::customIndex(const QString& name) const
+{
+    for (int i = 0; i < m_customData.size(); ++i) {
+        if (m_customData.at(i).toMap().value(QStringLiteral("name")).toString() == name)
+            return i;
+    }
+    return -1;
+}
+
+void HST_Document::addCustomData(const QString& name, const QString& value, const QString& unit,
+                                 bool display, bool usefilename)
+{
+    m_customData.append(QVariantMap{{QStringLiteral("name"), name},
+                                    {QStringLiteral("value"), value},
+                                    {QStringLiteral("unit"), unit},
+                                    {QStringLiteral("display"), display},
+                                    {QStringLiteral("usefilename"), usefilename}});
+}
+
+void HST_Document::setCustomData(const QString& name, const QString& value, const QString& unit,
+                                 bool display, bool usefilename)
+{
+    const int index = customIndex(name);
+    if (index < 0)
+        return;
+    m_customData[index] = QVariantMap{{QStringLiteral("name"), name},
+                                      {QStringLiteral("value"), value},
+                                      {QStringLiteral("unit"), unit},
+                                      {QStringLiteral("display"), display},
+                                      {QStringLiteral("usefilename"), usefilename}};
+}
+
+void HST_Document::removeCustomData(const QString& name)
+{
+    const int index = customIndex(name);
+    if (index >= 0)
+        m_customData.removeAt(index);
+}
+
+void HST_Document::renameCustomData(const QString& oldName, const QString& newName)
+{
+    const int index = customIndex(oldName);
+    if (index < 0)
+        return;
+    QVariantMap item = m_customData.at(index).toMap();
+    item.insert(QStringLiteral("name"), newName);
+    m_customData[index] = item;
+}
+
+int HST_Document::exposureTimingFlag()
+{
+    return m_camera ? m_camera->spec.exposureTimingFlag : 0;
+}
+
+int HST_Document::exposureTimingClass()
+{
+    return m_camera ? m_camera->spec.exposureTimingClass : 0;
+}
+
+bool HST_Document::isDummy()
+{
+    return m_camera && m_camera->spec.dummy;
+}
+
+bool HST_Document::hasRecordedData()
+{
+    return m_camera && m_camera->recorded.load();
+}
+
+void HST_Document::eraseRecordedData(int)
+{
+    if (!m_camera)
+        return;
+    m_camera->recorded.store(false);
+    if (m_camera->recorder)
+        m_camera->recorder->record(QStringLiteral("eraseRecordedData"),
+                                   {{QStringLiteral("camera"), m_camera->spec.ip}});
+}
+
+void HST_Document::networkAddresses(QString& ip, QString& subnetmask, QString& gateway)
+{
+    ip = ipAddress(true);
+    subnetmask = m_camera ? QStringLiteral("255.255.255.0") : QString();
+    gateway.clear();
+}
+
+quint64 HST_Document::serialNumber(bool device)
+{
+    if (!m_camera)
+        return 0;
+    return (device ? 100000u : 200000u) + quint64(m_camera->index);
+}
+
+int HST_Document::dualSlopeShutter()
+{
+    return m_camera ? m_camera->spec.dualSlopeShutter : 0;
+}
+
+int HST_Document::automaticExposureControl()
+{
+    return m_camera ? m_camera->spec.automaticExposureControl : 0;
+}
+
+int HST_Document::lowLightMode()
+{
+    return m_camera ? m_camera->spec.lowLightMode : 0;
+}
+
+QList<int>& HST_Document::partitions(QList<int>& out)
+{
+    out = m_camera ? QList<int>{1} : QList<int>();
+    return out;
+}
+
+QString& HST_Document::numberOptionText(QString& out, int, int, int, bool* usesSession,
+                                        const QDateTime*)
+{
+    if (usesSession)
+        *usesSession = false;
+    out.clear();
+    return out;
+}

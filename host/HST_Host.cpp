@@ -1,0 +1,552 @@
+#include "host/HST_Host.h"
+
+#include "host/HST_CameraState.h"
+#include "host/HST_Document.h"
+#include "host/HST_HubList.h"
+#include "host/HST_LinkCoreHub.h"
+#include "host/HST_Preferences.h"
+#include "host/HST_Recorder.h"
+#include "util/APP_Exception.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEventLoop>
+#include <QFontDatabase>
+#include <QFutureWatcher>
+#include <QJsonArray>
+#include <QMutexLocker>
+#include <QProgressDialog>
+#include <QThread>
+#include <QTranslator>
+
+namespace {
+
+// The translation context of the host's texts and of the plug-in's message boxes.
+const char translationContext[] = "tarvix4";
+
+// Runs work on the GUI thread and waits for it; message boxes must not open on a worker.
+template <typename Work>
+void onGuiThread(QObject* context, Work work)
+{
+    if (QThread::currentThread() == context->thread())
+        work();
+    else
+        QMetaObject::invokeMethod(context, work, Qt::BlockingQueuedConnection);
+}
+
+} // namespace
+
+// Outside the anonymous namespace: the macro declares the resource's initialiser where it stands.
+static void initResources()
+{
+    Q_INIT_RESOURCE(tarvixhost);
+}
+
+HST_Host::HST_Host(const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath,
+                   QObject* parent)
+    : QObject(parent),
+      m_scenario(scenario),
+      m_recorder(recorder),
+      m_prefs(new HST_Preferences(prefsPath, recorder)),
+      m_mode(scenario.mode),
+      m_hubs(new HST_HubList(scenario.hubs, recorder))
+{
+    initResources();
+    for (auto it = scenario.prefs.begin(); it != scenario.prefs.end(); ++it)
+        m_prefs->preset(it.key(), it.value());
+    for (int type : scenario.syncCapableTypes) {
+        m_typeRecords.emplace_back(new APP_CameraTypeRecord);
+        m_typeRecords.back()->cameraType = type;
+    }
+    for (int i = 0; i < scenario.cameras.size(); ++i) {
+        m_cameras.emplace_back(new HST_CameraState);
+        HST_CameraState* camera = m_cameras.back().get();
+        camera->spec = scenario.cameras.at(i);
+        camera->index = i;
+        camera->recorder = recorder;
+        camera->recorded.store(camera->spec.recorded);
+        camera->syncRequired.store(camera->spec.syncRequired);
+        for (int d = 0; d < camera->spec.documents; ++d) {
+            m_allDocuments.emplace_back(new HST_Document(m_nextKey, camera, d));
+            HST_Document* document = m_allDocuments.back().get();
+            m_documents.insert(m_nextKey++, document);
+            if (!camera->primary) {
+                camera->primary = document;
+                m_cameraByPointer.insert(document, camera);
+            }
+        }
+    }
+    for (int i = 0; i < scenario.files; ++i)
+        addFileDocument();
+    if (!m_documents.isEmpty())
+        m_currentKey = m_documents.firstKey();
+}
+
+HST_Host::~HST_Host()
+{
+    if (m_translator)
+        QCoreApplication::removeTranslator(m_translator);
+}
+
+bool HST_Host::loadTranslations(const QString& path, QString& error)
+{
+    auto* translator = new QTranslator(this);
+    if (!translator->load(path)) {
+        error = QStringLiteral("%1: not a translation file that can be loaded").arg(path);
+        delete translator;
+        return false;
+    }
+    if (m_translator)
+        QCoreApplication::removeTranslator(m_translator);
+    m_translator = translator;
+    QCoreApplication::installTranslator(m_translator);
+    return true;
+}
+
+void HST_Host::setMainWindow(QWidget* window)
+{
+    m_mainWindow = window;
+}
+
+void HST_Host::setMode(int mode)
+{
+    if (mode == m_mode)
+        return;
+    m_mode = mode;
+    m_recorder->record(QStringLiteral("mode"), {{QStringLiteral("mode"), mode}});
+    emit stateChanged();
+}
+
+int HST_Host::addFileDocument()
+{
+    m_allDocuments.emplace_back(new HST_Document(m_nextKey, nullptr, m_fileCount++));
+    m_documents.insert(m_nextKey, m_allDocuments.back().get());
+    emit stateChanged();
+    return m_nextKey++;
+}
+
+void HST_Host::updateUI(unsigned mask, bool flag)
+{
+    m_recorder->record(QStringLiteral("updateUI"),
+                       {{QStringLiteral("mask"), double(mask)}, {QStringLiteral("flag"), flag}});
+}
+
+QVariant& HST_Host::defaultVariant(QVariant& out, const QString& key)
+{
+    out = HST_Preferences::hostDefault(key);
+    return out;
+}
+
+void HST_Host::restoreDefault(const QString& key)
+{
+    m_prefs->remove(key);
+    m_recorder->record(QStringLiteral("restoreDefault"), {{QStringLiteral("key"), key}});
+}
+
+QWidget* HST_Host::getMainWindow()
+{
+    return m_mainWindow;
+}
+
+QWidget* HST_Host::parentWidget()
+{
+    return m_mainWindow;
+}
+
+QString HST_Host::runMessageBox(const QString& kind, QMessageBox::Icon icon, const QString& text,
+                                const QStringList& details, QWidget* parent, bool withCancel)
+{
+    static const QMap<QString, QString> titles{{"information", "Information"},
+                                               {"informationList", "Information"},
+                                               {"warning", "Warning"},
+                                               {"error", "Error"},
+                                               {"errorList", "Error"},
+                                               {"exception", "Error"},
+                                               {"confirm", "Confirmation"}};
+    QString answer;
+    onGuiThread(this, [&] {
+        QMessageBox box(icon, titles.value(kind), text,
+                        withCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok,
+                        parent ? parent : m_mainWindow.data());
+        box.setObjectName(QStringLiteral("host_") + kind);
+        if (!details.isEmpty())
+            box.setInformativeText(details.join(QLatin1Char('\n')));
+        box.exec();
+        if (QAbstractButton* clicked = box.clickedButton())
+            answer = clicked->text().remove(QLatin1Char('&'));
+    });
+    if (kind != QLatin1String("exception")) {
+        QJsonObject event{{QStringLiteral("kind"), kind},
+                          {QStringLiteral("text"), text},
+                          {QStringLiteral("answer"), answer}};
+        if (!details.isEmpty())
+            event.insert(QStringLiteral("details"), QJsonArray::fromStringList(details));
+        m_recorder->record(QStringLiteral("message"), event);
+    }
+    return answer;
+}
+
+void HST_Host::reportException(const std::exception& e)
+{
+    const QString text = QString::fromUtf8(e.what());
+    QJsonObject event{{QStringLiteral("text"), text}};
+    // Proves the type survived the library boundary, not only the text.
+    if (const auto* appException = dynamic_cast<const APP_Exception*>(&e)) {
+        event.insert(QStringLiteral("type"), QStringLiteral("APP_Exception"));
+        event.insert(QStringLiteral("errorCode"), appException->errorCode());
+    } else {
+        event.insert(QStringLiteral("type"), QStringLiteral("std::exception"));
+    }
+    m_recorder->record(QStringLiteral("reportException"), event);
+    runMessageBox(QStringLiteral("exception"), QMessageBox::Critical, text, {}, nullptr, false);
+}
+
+void HST_Host::showInformation(const QString& text, QWidget* parent)
+{
+    runMessageBox(QStringLiteral("information"), QMessageBox::Information, text, {}, parent, false);
+}
+
+void HST_Host::showInformationList(const QString& text, const QStringList& details, int)
+{
+    runMessageBox(QStringLiteral("informationList"), QMessageBox::Information, text, details,
+                  nullptr, false);
+}
+
+void HST_Host::showWarning(const QString& text, QWidget* parent)
+{
+    runMessageBox(QStringLiteral("warning"), QMessageBox::Warning, text, {}, parent, false);
+}
+
+void HST_Host::showErrorList(const QString& text, const QStringList& details, int)
+{
+    runMessageBox(QStringLiteral("errorList"), QMessageBox::Critical, text, details, nullptr, false);
+}
+
+void HST_Host::showError(const QString& text, QWidget* parent)
+{
+    runMessageBox(QStringLiteral("error"), QMessageBox::Critical, text, {}, parent, false);
+}
+
+bool HST_Host::confirm(const QString& text, QWidget* parent, const QVariantMap&)
+{
+    const QString ok = QMessageBox(QMessageBox::Question, QString(), QString(), QMessageBox::Ok)
+                           .button(QMessageBox::Ok)->text().remove(QLatin1Char('&'));
+    return runMessageBox(QStringLiteral("confirm"), QMessageBox::Question, text, {}, parent, true)
+           == ok;
+}
+
+QStringList& HST_Host::fontList(QStringList& out)
+{
+    out = QFontDatabase().families();
+    return out;
+}
+
+QString HST_Host::translate(const QString& sourceText, int)
+{
+    if (!m_translator)
+        return sourceText;
+    const QString translated = m_translator->translate(translationContext, sourceText.toUtf8());
+    return translated.isEmpty() ? sourceText : translated;
+}
+
+void HST_Host::syncCapableTypes(QList<APP_CameraTypeRecord*>& out)
+{
+    out.clear();
+    for (const auto& record : m_typeRecords)
+        out.append(record.get());
+}
+
+QVariant HST_Host::getPrefVariant(const QString& key, const QVariant& defaultValue)
+{
+    return m_prefs->value(key, defaultValue);
+}
+
+int HST_Host::getPrefInt(const QString& key, const QVariant& defaultValue)
+{
+    return m_prefs->value(key, defaultValue).toInt();
+}
+
+bool HST_Host::getPrefBool(const QString& key, const QVariant& defaultValue)
+{
+    return m_prefs->value(key, defaultValue).toBool();
+}
+
+float HST_Host::getPrefFloat(const QString& key, const QVariant& defaultValue)
+{
+    return m_prefs->value(key, defaultValue).toFloat();
+}
+
+QString& HST_Host::getPrefString(QString& out, const QString& key, const QVariant& defaultValue)
+{
+    out = m_prefs->value(key, defaultValue).toString();
+    return out;
+}
+
+void HST_Host::setPrefVariant(const QString& key, const QVariant& value)
+{
+    m_prefs->setValue(key, value);
+}
+
+void HST_Host::setPrefInt(const QString& key, int value)
+{
+    m_prefs->setValue(key, value);
+}
+
+void HST_Host::setPrefBool(const QString& key, bool value)
+{
+    m_prefs->setValue(key, value);
+}
+
+void HST_Host::setPrefFloat(const QString& key, float value)
+{
+    m_prefs->setValue(key, value);
+}
+
+void HST_Host::setPrefString(const QString& key, const QString& value)
+{
+    m_prefs->setValue(key, value);
+}
+
+void HST_Host::endModalDialog()
+{
+    --m_modalDepth;
+    m_recorder->record(QStringLiteral("modal"),
+                       {{QStringLiteral("op"), "end"}, {QStringLiteral("depth"), m_modalDepth}});
+}
+
+void HST_Host::beginModalDialog()
+{
+    ++m_modalDepth;
+    m_recorder->record(QStringLiteral("modal"),
+                       {{QStringLiteral("op"), "begin"}, {QStringLiteral("depth"), m_modalDepth}});
+}
+
+QString& HST_Host::versionText(QString& out)
+{
+    out = QStringLiteral("tarvix4host 1.0");
+    return out;
+}
+
+void HST_Host::runWithBusyDialog(const QString& text, QFutureWatcher<void>* watcher)
+{
+    m_recorder->record(QStringLiteral("busy"), {{QStringLiteral("text"), text}});
+    {
+        QProgressDialog dialog(text, QString(), 0, 0, m_mainWindow);
+        dialog.setObjectName(QStringLiteral("host_busy"));
+        dialog.setWindowModality(Qt::ApplicationModal);
+        dialog.setCancelButton(nullptr);
+        dialog.setMinimumDuration(0);
+        QEventLoop loop;
+        connect(watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+        // Connected before the test, so a finish in between still ends the loop.
+        if (!watcher->isFinished()) {
+            dialog.show();
+            loop.exec();
+        }
+    }
+    // Rethrows the QException that the task stored.
+    watcher->waitForFinished();
+}
+
+int HST_Host::documentKey(DOC_Interface* doc)
+{
+    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
+        if (it.value() == doc)
+            return it.key();
+    }
+    return INVALID_DOCKEY;
+}
+
+DOC_Interface* HST_Host::document(int key, bool)
+{
+    return m_documents.value(key, nullptr);
+}
+
+void HST_Host::setCurrentDocument(int key, bool)
+{
+    if (m_documents.contains(key))
+        m_currentKey = key;
+}
+
+void HST_Host::removeDocument(int key)
+{
+    if (!m_documents.remove(key))
+        return;
+    if (m_currentKey == key)
+        m_currentKey = m_documents.isEmpty() ? INVALID_DOCKEY : m_documents.firstKey();
+    m_recorder->record(QStringLiteral("removeDocument"), {{QStringLiteral("key"), key}});
+    emit stateChanged();
+}
+
+void HST_Host::documentsChanged(bool refresh)
+{
+    m_recorder->record(QStringLiteral("documentsChanged"), {{QStringLiteral("refresh"), refresh}});
+    emit stateChanged();
+}
+
+QList<int>& HST_Host::documentKeysForList(QList<int>& out, int)
+{
+    out = m_documents.keys();
+    return out;
+}
+
+QList<int>& HST_Host::openedDocumentKeys(QList<int>& out, bool, bool)
+{
+    out = m_documents.keys();
+    return out;
+}
+
+QList<int>& HST_Host::liveDocumentKeys(QList<int>& out, int)
+{
+    out.clear();
+    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
+        if (it.value()->cameraState())
+            out.append(it.key());
+    }
+    return out;
+}
+
+QList<int> HST_Host::documentKeys(int)
+{
+    return m_documents.keys();
+}
+
+QList<int>& HST_Host::orderedKeys(QList<int>& out)
+{
+    out = m_documents.keys();
+    return out;
+}
+
+QList<DOC_Interface*>& HST_Host::allDocuments(QList<DOC_Interface*>& out)
+{
+    out.clear();
+    for (HST_Document* document : qAsConst(m_documents))
+        out.append(document);
+    return out;
+}
+
+void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor,
+                         bool external, bool generatorControl, int syncIn, int frequency,
+                         int polarity)
+{
+    // Runs on the sync worker: only immutable scenario data, atomics and the recorder here.
+    QJsonArray addresses;
+    QList<HST_CameraState*> states;
+    QString refusal;
+    for (DOC_Camera* camera : cameras) {
+        HST_CameraState* state = m_cameraByPointer.value(camera, nullptr);
+        addresses.append(state ? QJsonValue(state->spec.ip) : QJsonValue());
+        if (!state)
+            refusal = QStringLiteral("A camera of the request is not connected to the host.");
+        states.append(state);
+    }
+    HST_CameraState* masterState = m_cameraByPointer.value(master, nullptr);
+    if (master && !masterState)
+        refusal = QStringLiteral("The master camera is not connected to the host.");
+    if (!external && !master)
+        refusal = QStringLiteral("A chain connection needs a master camera.");
+
+    QJsonObject event{{QStringLiteral("cameras"), addresses},
+                      {QStringLiteral("master"),
+                       masterState ? QJsonValue(masterState->spec.ip) : QJsonValue()},
+                      {QStringLiteral("distributor"), distributor},
+                      {QStringLiteral("external"), external},
+                      {QStringLiteral("generatorControl"), generatorControl},
+                      {QStringLiteral("syncIn"), syncIn},
+                      {QStringLiteral("frequency"), frequency},
+                      {QStringLiteral("polarity"), polarity}};
+    if (!refusal.isEmpty()) {
+        event.insert(QStringLiteral("result"), QStringLiteral("refused"));
+        event.insert(QStringLiteral("error"), refusal);
+        m_recorder->record(QStringLiteral("applySync"), event);
+        throw APP_Exception(refusal, 0);
+    }
+    const HST_Outcome outcome = m_scenario.applySync;
+    if (outcome.delayMs > 0)
+        QThread::msleep(ulong(outcome.delayMs));
+    if (!outcome.ok) {
+        event.insert(QStringLiteral("result"), QStringLiteral("error"));
+        event.insert(QStringLiteral("error"), outcome.message);
+        m_recorder->record(QStringLiteral("applySync"), event);
+        throw APP_Exception(outcome.message, 1);
+    }
+    event.insert(QStringLiteral("result"), QStringLiteral("ok"));
+    m_recorder->record(QStringLiteral("applySync"), event);
+    for (HST_CameraState* state : states) {
+        // A camera that must be empty for a sync is emptied by it.
+        if (state->spec.needsErase && state->recorded.exchange(false))
+            m_recorder->record(QStringLiteral("eraseRecordedData"),
+                               {{QStringLiteral("camera"), state->spec.ip}});
+        state->syncRequired.store(false);
+        ++state->syncCount;
+    }
+}
+
+bool HST_Host::isSyncRequired()
+{
+    for (const auto& camera : m_cameras) {
+        if (camera->syncRequired.load())
+            return true;
+    }
+    return false;
+}
+
+void HST_Host::setActive(bool active)
+{
+    m_hubs->setActive(active);
+}
+
+void HST_Host::commitSearchList()
+{
+    m_hubs->commitSearchList();
+}
+
+void HST_Host::rollbackSearchList()
+{
+    m_hubs->rollbackSearchList();
+}
+
+void HST_Host::connectAll(int kind, bool wait)
+{
+    m_hubs->connectAll(kind, wait);
+}
+
+void HST_Host::shutdown()
+{
+    m_hubs->shutdown();
+}
+
+void HST_Host::addSearchAddress(const QString& ip)
+{
+    m_hubs->addSearchAddress(ip);
+}
+
+void HST_Host::removeSearchAddress(const QString& ip)
+{
+    m_hubs->removeSearchAddress(ip);
+}
+
+DOC_LinkCore* HST_Host::device(const QString& ip)
+{
+    return m_hubs->hub(ip);
+}
+
+void HST_Host::addresses(QStringList& out, bool)
+{
+    out = m_hubs->addresses();
+}
+
+void HST_Host::changeAddress(const QString& oldIp, const QString& newIp)
+{
+    m_hubs->changeAddress(oldIp, newIp);
+}
+
+bool HST_Host::hasUnappliedChanges()
+{
+    return m_hubs->hasUnappliedChanges();
+}
+
+void HST_Host::applyChanges()
+{
+    m_hubs->applyChanges();
+}

@@ -1,0 +1,81 @@
+#include "host/HST_LinkCoreHub.h"
+
+#include <QMutexLocker>
+
+HST_LinkCoreHub::HST_LinkCoreHub(const HST_HubSpec& spec) : m_spec(spec)
+{
+}
+
+QString HST_LinkCoreHub::ip() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_spec.ip;
+}
+
+void HST_LinkCoreHub::setIp(const QString& ip)
+{
+    QMutexLocker locker(&m_mutex);
+    m_spec.ip = ip;
+}
+
+HST_Outcome HST_LinkCoreHub::changeAddressOutcome() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_spec.changeAddress;
+}
+
+bool HST_LinkCoreHub::hasPendingFrequency() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_pendingFrequency >= 0 && m_pendingFrequency != m_spec.frequency;
+}
+
+void HST_LinkCoreHub::applyPendingFrequency()
+{
+    QMutexLocker locker(&m_mutex);
+    if (m_pendingFrequency >= 0)
+        m_spec.frequency = m_pendingFrequency;
+    m_pendingFrequency = -1;
+}
+
+int HST_LinkCoreHub::syncMode()
+{
+    QMutexLocker locker(&m_mutex);
+    return m_spec.syncMode;
+}
+
+QString HST_LinkCoreHub::syncModeText()
+{
+    QMutexLocker locker(&m_mutex);
+    return m_spec.syncMode == 0 ? QStringLiteral("Internal") : QStringLiteral("External");
+}
+
+int HST_LinkCoreHub::frequency()
+{
+    QMutexLocker locker(&m_mutex);
+    return m_pendingFrequency >= 0 ? m_pendingFrequency : m_spec.frequency;
+}
+
+void HST_LinkCoreHub::setFrequency(int hz)
+{
+    QMutexLocker locker(&m_mutex);
+    m_pendingFrequency = hz;
+}
+
+void HST_LinkCoreHub::frequencies(QList<int>& out)
+{
+    QMutexLocker locker(&m_mutex);
+    out = m_spec.frequencies;
+}
+
+QString HST_LinkCoreHub::firmwareVersion()
+{
+    QMutexLocker locker(&m_mutex);
+    return m_spec.firmware;
+}
+
+bool HST_LinkCoreHub::isConnected()
+{
+    QMutexLocker locker(&m_mutex);
+    return m_spec.connected;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/HST_Scenario.h"
+#include "plugin/DOC_LinkCore.h"
+
+#include <QMutex>
+
+// One simulated network hub. A frequency set by the plug-in stays pending until the host
+// applies it after a successful sync.
+class HST_LinkCoreHub final : public DOC_LinkCore
+{
+public:
+    explicit HST_LinkCoreHub(const HST_HubSpec& spec);
+
+    QString ip() const;
+    void setIp(const QString& ip);
+    HST_Outcome changeAddressOutcome() const;
+    bool hasPendingFrequency() const;
+    void applyPendingFrequency();
+
+    int syncMode() override;
+    QString syncModeText() override;
+    // The pending value if there is one: that is what the hub's table must show.
+    int frequency() override;
+    void setFrequency(int hz) override;
+    void frequencies(QList<int>& out) override;
+    QString firmwareVersion() override;
+    bool isConnected() override;
+
+private:
+    mutable QMutex m_mutex;
+    HST_HubSpec m_spec;
+    int m_pendingFrequency = -1;
+};

@@ -1,0 +1,138 @@
+#include "host/HST_MainWindow.h"
+
+#include "host/HST_CameraState.h"
+#include "host/HST_Document.h"
+#include "host/HST_Host.h"
+#include "host/HST_Recorder.h"
+#include "plugin/PLG_Interface.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableWidget>
+#include <QToolBar>
+
+HST_MainWindow::HST_MainWindow(HST_Host* host)
+    : m_host(host),
+      m_toolBar(addToolBar(QStringLiteral("Plug-ins"))),
+      m_modeBox(new QComboBox(this)),
+      m_documentTable(new QTableWidget(0, 5, this))
+{
+    setObjectName(QStringLiteral("host_mainWindow"));
+    setWindowTitle(QStringLiteral("tarvix4host"));
+    m_toolBar->setObjectName(QStringLiteral("host_toolBar"));
+    m_toolBar->setMovable(false);
+
+    QToolBar* stateBar = addToolBar(QStringLiteral("State"));
+    stateBar->setMovable(false);
+    stateBar->addWidget(new QLabel(QStringLiteral(" Mode "), this));
+    m_modeBox->setObjectName(QStringLiteral("host_mode"));
+    m_modeBox->addItems({QStringLiteral("Live"), QStringLiteral("Memory"), QStringLiteral("File")});
+    m_modeBox->setCurrentIndex(host->saveTargetKind());
+    stateBar->addWidget(m_modeBox);
+    connect(m_modeBox, QOverload<int>::of(&QComboBox::activated), host, &HST_Host::setMode);
+    QAction* close = stateBar->addAction(QStringLiteral("Close document"));
+    close->setObjectName(QStringLiteral("host_closeDocument"));
+    connect(close, &QAction::triggered, this, [this] {
+        const int row = m_documentTable->currentRow();
+        if (row >= 0)
+            m_host->removeDocument(m_documentTable->item(row, 0)->text().toInt());
+    });
+
+    m_documentTable->setObjectName(QStringLiteral("host_documents"));
+    m_documentTable->setHorizontalHeaderLabels({QStringLiteral("Key"), QStringLiteral("Name"),
+                                                QStringLiteral("Address"), QStringLiteral("Type"),
+                                                QStringLiteral("Model")});
+    m_documentTable->horizontalHeader()->setStretchLastSection(true);
+    m_documentTable->verticalHeader()->hide();
+    m_documentTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_documentTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    setCentralWidget(m_documentTable);
+    resize(800, 400);
+
+    // Queued: the plug-in may report a change from inside one of its own operations.
+    connect(host, &HST_Host::stateChanged, this, &HST_MainWindow::refreshState,
+            Qt::QueuedConnection);
+    fillDocuments();
+}
+
+void HST_MainWindow::addPlugin(PLG_Interface* plugin)
+{
+    const QString name = plugin->pageName();
+    QAction* action = m_toolBar->addAction(name);
+    action->setObjectName(name);
+    connect(action, &QAction::triggered, this, [this, plugin, name] { runPlugin(plugin, name); });
+    m_plugins.insert(name, plugin);
+    m_actions.insert(name, action);
+    refreshState();
+}
+
+QAction* HST_MainWindow::pluginAction(const QString& name) const
+{
+    return m_actions.value(name, nullptr);
+}
+
+bool HST_MainWindow::press(const QString& name)
+{
+    QAction* action = pluginAction(name);
+    m_host->recorder()->record(QStringLiteral("press"),
+                               {{QStringLiteral("name"), name},
+                                {QStringLiteral("found"), action != nullptr},
+                                {QStringLiteral("enabled"), action && action->isEnabled()}});
+    if (!action || !action->isEnabled())
+        return false;
+    action->trigger();
+    return true;
+}
+
+void HST_MainWindow::refreshState()
+{
+    m_modeBox->setCurrentIndex(m_host->saveTargetKind());
+    fillDocuments();
+    for (auto it = m_plugins.begin(); it != m_plugins.end(); ++it) {
+        const bool enabled = it.value()->isEnabled();
+        m_host->recorder()->record(QStringLiteral("isEnabled"),
+                                   {{QStringLiteral("name"), it.key()},
+                                    {QStringLiteral("result"), enabled}});
+        m_actions.value(it.key())->setEnabled(enabled);
+        it.value()->update();
+    }
+}
+
+void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
+{
+    HST_Recorder* recorder = m_host->recorder();
+    recorder->record(QStringLiteral("execute"),
+                     {{QStringLiteral("name"), name}, {QStringLiteral("phase"), "begin"}});
+    ++m_running;
+    try {
+        plugin->execute();
+    } catch (const std::exception& e) {
+        m_host->reportException(e);
+    } catch (...) {
+        qCritical("A plug-in let an exception of unknown type out of execute");
+    }
+    --m_running;
+    recorder->record(QStringLiteral("execute"),
+                     {{QStringLiteral("name"), name}, {QStringLiteral("phase"), "end"}});
+    emit executeFinished(name);
+}
+
+void HST_MainWindow::fillDocuments()
+{
+    const QList<int> keys = m_host->documentKeys(0);
+    m_documentTable->setRowCount(keys.size());
+    for (int row = 0; row < keys.size(); ++row) {
+        auto* document = static_cast<HST_Document*>(m_host->document(keys.at(row)));
+        const HST_CameraState* camera = document->cameraState();
+        QString name;
+        const QStringList cells{QString::number(keys.at(row)),
+                                camera ? camera->spec.name : document->baseName(name),
+                                camera ? camera->spec.ip : QString(),
+                                camera ? QString::number(camera->spec.type) : QString(),
+                                camera ? camera->spec.model : QStringLiteral("(file)")};
+        for (int column = 0; column < cells.size(); ++column)
+            m_documentTable->setItem(row, column, new QTableWidgetItem(cells.at(column)));
+    }
+}

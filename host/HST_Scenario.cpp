@@ -1,0 +1,319 @@
+#include "host/HST_Scenario.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonParseError>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+// Thrown inside the validator only; fromJson turns it into the error text.
+struct Refusal
+{
+    QString key;
+    QString problem;
+};
+
+[[noreturn]] void refuse(const QString& key, const QString& problem)
+{
+    throw Refusal{key, problem};
+}
+
+QString typeName(const QJsonValue& value)
+{
+    switch (value.type()) {
+    case QJsonValue::Null: return QStringLiteral("null");
+    case QJsonValue::Bool: return QStringLiteral("a boolean");
+    case QJsonValue::Double: return QStringLiteral("a number");
+    case QJsonValue::String: return QStringLiteral("a string");
+    case QJsonValue::Array: return QStringLiteral("a list");
+    case QJsonValue::Object: return QStringLiteral("an object");
+    case QJsonValue::Undefined: break;
+    }
+    return QStringLiteral("nothing");
+}
+
+[[noreturn]] void wrongType(const QString& key, const char* expected, const QJsonValue& value)
+{
+    refuse(key, QStringLiteral("expected %1, found %2")
+                    .arg(QLatin1String(expected), typeName(value)));
+}
+
+void checkKeys(const QJsonObject& object, const QString& path, const QStringList& allowed)
+{
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        if (!allowed.contains(it.key()))
+            refuse(path.isEmpty() ? it.key() : path + QLatin1Char('.') + it.key(),
+                   QStringLiteral("unknown key"));
+    }
+}
+
+QString join(const QString& path, const QString& key)
+{
+    return path.isEmpty() ? key : path + QLatin1Char('.') + key;
+}
+
+int readInt(const QJsonObject& object, const QString& path, const QString& key, int fallback,
+            int minimum = std::numeric_limits<int>::min(),
+            int maximum = std::numeric_limits<int>::max())
+{
+    if (!object.contains(key))
+        return fallback;
+    const QJsonValue value = object.value(key);
+    const QString name = join(path, key);
+    const double number = value.toDouble();
+    if (!value.isDouble() || std::floor(number) != number
+        || number < double(std::numeric_limits<int>::min())
+        || number > double(std::numeric_limits<int>::max()))
+        wrongType(name, "an integer", value);
+    if (number < minimum || number > maximum)
+        refuse(name, QStringLiteral("%1 is outside %2 to %3").arg(number).arg(minimum).arg(maximum));
+    return int(number);
+}
+
+bool readBool(const QJsonObject& object, const QString& path, const QString& key, bool fallback)
+{
+    if (!object.contains(key))
+        return fallback;
+    const QJsonValue value = object.value(key);
+    if (!value.isBool())
+        wrongType(join(path, key), "a boolean", value);
+    return value.toBool();
+}
+
+QString readString(const QJsonObject& object, const QString& path, const QString& key,
+                   const QString& fallback)
+{
+    if (!object.contains(key))
+        return fallback;
+    const QJsonValue value = object.value(key);
+    if (!value.isString())
+        wrongType(join(path, key), "a string", value);
+    return value.toString();
+}
+
+QJsonObject readObject(const QJsonObject& object, const QString& path, const QString& key)
+{
+    const QJsonValue value = object.value(key);
+    if (!value.isObject())
+        wrongType(join(path, key), "an object", value);
+    return value.toObject();
+}
+
+QJsonArray readArray(const QJsonObject& object, const QString& path, const QString& key)
+{
+    const QJsonValue value = object.value(key);
+    if (!value.isArray())
+        wrongType(join(path, key), "a list", value);
+    return value.toArray();
+}
+
+QList<int> readIntList(const QJsonObject& object, const QString& path, const QString& key)
+{
+    const QString name = join(path, key);
+    const QJsonArray array = readArray(object, path, key);
+    QList<int> list;
+    for (int i = 0; i < array.size(); ++i) {
+        const QJsonValue value = array.at(i);
+        const double number = value.toDouble();
+        if (!value.isDouble() || std::floor(number) != number || std::abs(number) >= 2147483648.0)
+            wrongType(QStringLiteral("%1[%2]").arg(name).arg(i), "an integer", value);
+        list.append(int(number));
+    }
+    return list;
+}
+
+void checkAddress(const QString& key, const QString& ip)
+{
+    static const QRegularExpression dotted(QStringLiteral("^(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})$"));
+    const QRegularExpressionMatch match = dotted.match(ip);
+    bool ok = match.hasMatch();
+    for (int i = 1; ok && i <= 4; ++i)
+        ok = match.captured(i).toInt() <= 255;
+    if (!ok)
+        refuse(key, QStringLiteral("\"%1\" is not a dotted IPv4 address").arg(ip));
+}
+
+HST_Outcome readOutcome(const QJsonObject& parent, const QString& path, const QString& key)
+{
+    HST_Outcome outcome;
+    if (!parent.contains(key))
+        return outcome;
+    const QString name = join(path, key);
+    const QJsonObject object = readObject(parent, path, key);
+    checkKeys(object, name, {"result", "message", "delayMs"});
+    const QString result = readString(object, name, QStringLiteral("result"), QStringLiteral("ok"));
+    if (result != QLatin1String("ok") && result != QLatin1String("error"))
+        refuse(join(name, QStringLiteral("result")),
+               QStringLiteral("\"%1\" is neither \"ok\" nor \"error\"").arg(result));
+    outcome.ok = result == QLatin1String("ok");
+    outcome.message = readString(object, name, QStringLiteral("message"),
+                                 QStringLiteral("The simulated device refused the request."));
+    outcome.delayMs = readInt(object, name, QStringLiteral("delayMs"), 0, 0, 600000);
+    return outcome;
+}
+
+HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int index)
+{
+    if (!value.isObject())
+        wrongType(name, "an object", value);
+    const QJsonObject object = value.toObject();
+    checkKeys(object, name,
+              {"name", "ip", "type", "model", "triggerMode", "lowLightMode", "dualSlopeShutter",
+               "automaticExposureControl", "exposureTimingFlag", "exposureTimingClass",
+               "documents", "dummy", "needsErase", "recorded", "syncRequired"});
+    HST_CameraSpec camera;
+    camera.name = readString(object, name, QStringLiteral("name"),
+                             QStringLiteral("Camera %1").arg(index + 1));
+    camera.ip = readString(object, name, QStringLiteral("ip"),
+                           QStringLiteral("192.168.0.%1").arg(10 + index));
+    checkAddress(join(name, QStringLiteral("ip")), camera.ip);
+    camera.type = readInt(object, name, QStringLiteral("type"), camera.type);
+    camera.model = readString(object, name, QStringLiteral("model"),
+                              QStringLiteral("HX-%1 type A model 1").arg(camera.type));
+    camera.triggerMode = readInt(object, name, QStringLiteral("triggerMode"), camera.triggerMode);
+    camera.lowLightMode = readInt(object, name, QStringLiteral("lowLightMode"), 0);
+    camera.dualSlopeShutter = readInt(object, name, QStringLiteral("dualSlopeShutter"), 0);
+    camera.automaticExposureControl =
+        readInt(object, name, QStringLiteral("automaticExposureControl"), 0);
+    camera.exposureTimingFlag = readInt(object, name, QStringLiteral("exposureTimingFlag"), 0);
+    camera.exposureTimingClass = readInt(object, name, QStringLiteral("exposureTimingClass"), 0);
+    camera.documents = readInt(object, name, QStringLiteral("documents"), 1, 0, 64);
+    camera.dummy = readBool(object, name, QStringLiteral("dummy"), false);
+    camera.needsErase = readBool(object, name, QStringLiteral("needsErase"), false);
+    camera.recorded = readBool(object, name, QStringLiteral("recorded"), false);
+    camera.syncRequired = readBool(object, name, QStringLiteral("syncRequired"), false);
+    return camera;
+}
+
+HST_HubSpec readHub(const QJsonValue& value, const QString& name, int index)
+{
+    if (!value.isObject())
+        wrongType(name, "an object", value);
+    const QJsonObject object = value.toObject();
+    checkKeys(object, name,
+              {"ip", "firmware", "syncMode", "frequency", "frequencies", "state", "changeAddress"});
+    HST_HubSpec hub;
+    hub.ip = readString(object, name, QStringLiteral("ip"),
+                        QStringLiteral("192.168.0.%1").arg(200 + index));
+    checkAddress(join(name, QStringLiteral("ip")), hub.ip);
+    hub.firmware = readString(object, name, QStringLiteral("firmware"), hub.firmware);
+    hub.syncMode = readInt(object, name, QStringLiteral("syncMode"), hub.syncMode);
+    hub.frequency = readInt(object, name, QStringLiteral("frequency"), hub.frequency, 0);
+    hub.frequencies = object.contains(QLatin1String("frequencies"))
+                          ? readIntList(object, name, QStringLiteral("frequencies"))
+                          : QList<int>{100, 500, 1000, 2000, 5000, 10000};
+    const QString state = readString(object, name, QStringLiteral("state"),
+                                     QStringLiteral("connected"));
+    if (state != QLatin1String("connected") && state != QLatin1String("disconnected"))
+        refuse(join(name, QStringLiteral("state")),
+               QStringLiteral("\"%1\" is neither \"connected\" nor \"disconnected\"").arg(state));
+    hub.connected = state == QLatin1String("connected");
+    hub.changeAddress = readOutcome(object, name, QStringLiteral("changeAddress"));
+    return hub;
+}
+
+QVariant prefValue(const QJsonValue& value, const QString& name)
+{
+    switch (value.type()) {
+    case QJsonValue::Bool: return value.toBool();
+    case QJsonValue::String: return value.toString();
+    case QJsonValue::Double: {
+        const double number = value.toDouble();
+        if (std::floor(number) == number && std::abs(number) < 2147483648.0)
+            return int(number);
+        return number;
+    }
+    default: wrongType(name, "a boolean, number or string", value);
+    }
+}
+
+void readScenario(const QJsonObject& root, HST_Scenario& out)
+{
+    checkKeys(root, QString(),
+              {"mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync",
+               "visa", "generator"});
+    out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
+    if (root.contains(QLatin1String("syncCapableTypes")))
+        out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
+    if (root.contains(QLatin1String("cameras"))) {
+        const QJsonArray cameras = readArray(root, QString(), QStringLiteral("cameras"));
+        QSet<QString> seen;
+        for (int i = 0; i < cameras.size(); ++i) {
+            const QString name = QStringLiteral("cameras[%1]").arg(i);
+            const HST_CameraSpec camera = readCamera(cameras.at(i), name, i);
+            if (seen.contains(camera.ip))
+                refuse(name + QStringLiteral(".ip"),
+                       QStringLiteral("duplicate camera address %1").arg(camera.ip));
+            seen.insert(camera.ip);
+            out.cameras.append(camera);
+        }
+    }
+    out.files = readInt(root, QString(), QStringLiteral("files"), 0, 0, 64);
+    if (root.contains(QLatin1String("hubs"))) {
+        const QJsonArray hubs = readArray(root, QString(), QStringLiteral("hubs"));
+        QSet<QString> seen;
+        for (int i = 0; i < hubs.size(); ++i) {
+            const QString name = QStringLiteral("hubs[%1]").arg(i);
+            const HST_HubSpec hub = readHub(hubs.at(i), name, i);
+            if (seen.contains(hub.ip))
+                refuse(name + QStringLiteral(".ip"),
+                       QStringLiteral("duplicate hub address %1").arg(hub.ip));
+            seen.insert(hub.ip);
+            out.hubs.append(hub);
+        }
+    }
+    if (root.contains(QLatin1String("prefs"))) {
+        const QJsonObject prefs = readObject(root, QString(), QStringLiteral("prefs"));
+        for (auto it = prefs.begin(); it != prefs.end(); ++it)
+            out.prefs.insert(it.key(), prefValue(it.value(), QStringLiteral("prefs.") + it.key()));
+    }
+    out.applySync = readOutcome(root, QString(), QStringLiteral("applySync"));
+    out.visa = readBool(root, QString(), QStringLiteral("visa"), false);
+    if (root.contains(QLatin1String("generator")))
+        out.generator = readObject(root, QString(), QStringLiteral("generator"));
+}
+
+} // namespace
+
+bool HST_Scenario::fromFile(const QString& path, HST_Scenario& out, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("%1: cannot read the scenario: %2").arg(path, file.errorString());
+        return false;
+    }
+    return fromJson(file.readAll(), path, out, error);
+}
+
+bool HST_Scenario::fromJson(const QByteArray& json, const QString& source, HST_Scenario& out,
+                            QString& error)
+{
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (parseError.error != QJsonParseError::NoError) {
+        error = QStringLiteral("%1: not JSON: %2 at offset %3")
+                    .arg(source, parseError.errorString())
+                    .arg(parseError.offset);
+        return false;
+    }
+    if (!document.isObject()) {
+        error = QStringLiteral("%1: (top level): expected an object").arg(source);
+        return false;
+    }
+    HST_Scenario scenario;
+    scenario.source = source;
+    try {
+        readScenario(document.object(), scenario);
+    } catch (const Refusal& refusal) {
+        error = QStringLiteral("%1: \"%2\": %3").arg(source, refusal.key, refusal.problem);
+        return false;
+    }
+    out = scenario;
+    return true;
+}

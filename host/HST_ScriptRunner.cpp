@@ -1,0 +1,321 @@
+#include "host/HST_ScriptRunner.h"
+
+#include "host/HST_Recorder.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QWebFrame>
+#include <QWebView>
+
+namespace {
+
+const int pollIntervalMs = 50;
+
+QString stepText(const QJsonValue& step)
+{
+    return QString::fromUtf8(QJsonDocument(step.toObject()).toJson(QJsonDocument::Compact));
+}
+
+bool isBusyDialog(QWidget* widget)
+{
+    return qobject_cast<QProgressDialog*>(widget) != nullptr;
+}
+
+// Posted, so that a modal dialog opened by the action doesn't block the caller.
+template <typename Action>
+void post(QObject* target, Action action)
+{
+    QMetaObject::invokeMethod(target, action, Qt::QueuedConnection);
+}
+
+} // namespace
+
+HST_ScriptRunner::HST_ScriptRunner(HST_Recorder* recorder, QObject* parent)
+    : QObject(parent), m_recorder(recorder)
+{
+    m_timer.setInterval(pollIntervalMs);
+    connect(&m_timer, &QTimer::timeout, this, &HST_ScriptRunner::poll);
+}
+
+bool HST_ScriptRunner::parse(const QByteArray& json, const QString& source, QJsonArray& steps,
+                             QString& error)
+{
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (parseError.error != QJsonParseError::NoError) {
+        error = QStringLiteral("%1: not JSON: %2 at offset %3")
+                    .arg(source, parseError.errorString())
+                    .arg(parseError.offset);
+        return false;
+    }
+    if (!document.isArray()) {
+        error = QStringLiteral("%1: expected a list of steps").arg(source);
+        return false;
+    }
+    const QJsonArray list = document.array();
+    for (int i = 0; i < list.size(); ++i) {
+        const QJsonObject step = list.at(i).toObject();
+        const QString where = QStringLiteral("%1: step %2").arg(source).arg(i + 1);
+        if (!list.at(i).isObject() || step.size() != 1) {
+            error = where + QStringLiteral(": expected an object with one key");
+            return false;
+        }
+        const QString kind = step.begin().key();
+        const QJsonValue value = step.begin().value();
+        bool ok = false;
+        if (kind == QLatin1String("click") || kind == QLatin1String("js")
+            || kind == QLatin1String("screenshot"))
+            ok = value.isString() && !value.toString().isEmpty();
+        else if (kind == QLatin1String("wait"))
+            ok = value.isDouble() && value.toDouble() >= 0;
+        else if (kind == QLatin1String("set"))
+            ok = value.isArray() && value.toArray().size() == 2 && value.toArray().at(0).isString()
+                 && !value.toArray().at(1).isArray() && !value.toArray().at(1).isObject();
+        else {
+            error = where + QStringLiteral(": unknown step \"%1\"").arg(kind);
+            return false;
+        }
+        if (!ok) {
+            error = where + QStringLiteral(": bad value for \"%1\"").arg(kind);
+            return false;
+        }
+    }
+    steps = list;
+    return true;
+}
+
+QJsonArray HST_ScriptRunner::answerSteps(const QStringList& answers)
+{
+    QJsonArray steps;
+    for (const QString& answer : answers)
+        steps.append(QJsonObject{{QStringLiteral("click"), answer}});
+    return steps;
+}
+
+void HST_ScriptRunner::setIdleWindow(QWidget* window, std::function<bool()> busy)
+{
+    m_idleWindow = window;
+    m_busy = std::move(busy);
+}
+
+void HST_ScriptRunner::start()
+{
+    m_index = 0;
+    m_finished = m_steps.isEmpty();
+    m_failure.clear();
+    m_stepClock.start();
+    if (m_finished)
+        emit finished(true);
+    else
+        m_timer.start();
+}
+
+void HST_ScriptRunner::poll()
+{
+    if (hasFailed()) {
+        closeModalWindows();
+        return;
+    }
+    if (m_finished)
+        return;
+    const QJsonObject step = m_steps.at(m_index).toObject();
+    if (step.contains(QLatin1String("wait"))) {
+        if (m_stepClock.elapsed() >= qint64(step.value(QLatin1String("wait")).toDouble()))
+            nextStep();
+        return;
+    }
+    QWidget* window = QApplication::activeModalWidget();
+    if (window && isBusyDialog(window)) {
+        // Work that takes long isn't the script's failure.
+        m_stepClock.restart();
+        return;
+    }
+    if (act(step, window) == Result::Done) {
+        nextStep();
+        return;
+    }
+    if (m_stepClock.elapsed() > m_timeoutMs)
+        fail(QStringLiteral("found nothing to act on within %1 s").arg(m_timeoutMs / 1000.0));
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::act(const QJsonObject& step, QWidget* window)
+{
+    const QString kind = step.begin().key();
+    const QJsonValue value = step.begin().value();
+    if (kind == QLatin1String("screenshot"))
+        return screenshot(value.toString(), window);
+    if (!window)
+        return Result::Waiting;
+    if (kind == QLatin1String("click"))
+        return click(value.toString(), window);
+    if (kind == QLatin1String("set"))
+        return set(value.toArray().at(0).toString(), value.toArray().at(1), window);
+    return runScript(value.toString(), window);
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::click(const QString& target, QWidget* window)
+{
+    const QList<QAbstractButton*> buttons = window->findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons) {
+        const bool matches = button->objectName() == target
+                             || button->text().remove(QLatin1Char('&')) == target;
+        if (matches && button->isVisible() && button->isEnabled()) {
+            QPointer<QAbstractButton> guarded(button);
+            post(this, [guarded] {
+                if (guarded)
+                    guarded->click();
+            });
+            return Result::Done;
+        }
+    }
+    return Result::Waiting;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::set(const QString& name, const QJsonValue& value,
+                                               QWidget* window)
+{
+    QWidget* widget = window->findChild<QWidget*>(name);
+    if (!widget || !widget->isEnabled())
+        return Result::Waiting;
+    QPointer<QWidget> guarded(widget);
+    if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+        const QString text = value.isString() ? value.toString() : value.toVariant().toString();
+        post(this, [guarded, edit, text] {
+            if (guarded) {
+                edit->setText(text);
+                emit edit->editingFinished();
+            }
+        });
+        return Result::Done;
+    }
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        const int index = value.isDouble() ? value.toInt() : combo->findText(value.toString());
+        if (index < 0 || index >= combo->count())
+            return Result::Waiting;
+        post(this, [guarded, combo, index] {
+            if (guarded) {
+                combo->setCurrentIndex(index);
+                emit combo->activated(index);
+            }
+        });
+        return Result::Done;
+    }
+    if (auto* spin = qobject_cast<QSpinBox*>(widget)) {
+        const int number = value.toVariant().toInt();
+        post(this, [guarded, spin, number] {
+            if (guarded)
+                spin->setValue(number);
+        });
+        return Result::Done;
+    }
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        const bool on = value.toVariant().toBool();
+        const bool radio = qobject_cast<QRadioButton*>(widget) != nullptr;
+        // A click, so that the clicked signals fire; a radio button is clicked even when it
+        // is checked already, as a user can.
+        post(this, [guarded, button, on, radio] {
+            if (!guarded)
+                return;
+            if (radio && on)
+                button->click();
+            else if (button->isChecked() != on)
+                button->click();
+        });
+        return Result::Done;
+    }
+    return Result::Waiting;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::runScript(const QString& code, QWidget* window)
+{
+    QWebView* view = qobject_cast<QWebView*>(window);
+    if (!view) {
+        for (QWebView* candidate : window->findChildren<QWebView*>()) {
+            if (candidate->isVisible()) {
+                view = candidate;
+                break;
+            }
+        }
+    }
+    if (!view)
+        return Result::Waiting;
+    QPointer<QWebView> guarded(view);
+    HST_Recorder* recorder = m_recorder;
+    post(this, [guarded, code, recorder] {
+        if (!guarded)
+            return;
+        const QVariant result = guarded->page()->mainFrame()->evaluateJavaScript(code);
+        recorder->record(QStringLiteral("js"),
+                         {{QStringLiteral("code"), code},
+                          {QStringLiteral("result"), QJsonValue::fromVariant(result)}});
+    });
+    return Result::Done;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::screenshot(const QString& path, QWidget* window)
+{
+    QWidget* target = window;
+    if (!target && !(m_busy && m_busy()))
+        target = m_idleWindow;
+    if (!target)
+        return Result::Waiting;
+    if (!target->grab().save(path)) {
+        fail(QStringLiteral("cannot write the screenshot %1").arg(path));
+        return Result::Waiting;
+    }
+    m_recorder->record(QStringLiteral("screenshot"), {{QStringLiteral("file"), path}});
+    return Result::Done;
+}
+
+void HST_ScriptRunner::nextStep()
+{
+    m_recorder->record(QStringLiteral("step"),
+                       {{QStringLiteral("index"), m_index + 1},
+                        {QStringLiteral("step"), m_steps.at(m_index)}});
+    ++m_index;
+    m_stepClock.restart();
+    if (m_index < m_steps.size())
+        return;
+    m_finished = true;
+    m_timer.stop();
+    emit finished(true);
+}
+
+void HST_ScriptRunner::fail(const QString& problem)
+{
+    if (hasFailed())
+        return;
+    m_failure = QStringLiteral("script step %1 %2: %3")
+                    .arg(m_index + 1)
+                    .arg(stepText(m_steps.at(m_index)), problem);
+    m_recorder->record(QStringLiteral("scriptError"),
+                       {{QStringLiteral("index"), m_index + 1}, {QStringLiteral("text"), m_failure}});
+    qCritical("%s", qPrintable(m_failure));
+    m_finished = true;
+    emit finished(false);
+}
+
+void HST_ScriptRunner::closeModalWindows()
+{
+    QWidget* window = QApplication::activeModalWidget();
+    if (!window || isBusyDialog(window))
+        return;
+    if (auto* dialog = qobject_cast<QDialog*>(window)) {
+        QPointer<QDialog> guarded(dialog);
+        post(this, [guarded] {
+            if (guarded)
+                guarded->reject();
+        });
+    } else {
+        window->close();
+    }
+}
