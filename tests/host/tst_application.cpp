@@ -1,9 +1,238 @@
+#include "host/HST_Application.h"
+#include "host/HST_Host.h"
+#include "host/HST_MainWindow.h"
+#include "host/HST_Recorder.h"
+
+#include <QAction>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QtTest>
+
+namespace {
+
+const QString pluginName = QStringLiteral("synccontrol");
+
+QString scenarioFile(const char* name)
+{
+    return QStringLiteral(SYNC_SOURCE_DIR "/host/scenarios/") + QLatin1String(name);
+}
+
+} // namespace
 
 class tst_Application : public QObject
 {
     Q_OBJECT
+
+private slots:
+    void init();
+    void loaderErrors_data();
+    void loaderErrors();
+    void enableRuleFollowsState_data();
+    void enableRuleFollowsState();
+    void pluginExceptionArrivesAsAppException();
+    void failedStepEndsRunWithCode3_data();
+    void failedStepEndsRunWithCode3();
+    void commandLine_data();
+    void commandLine();
+
+private:
+    HST_Options options(const QByteArray& scenario) const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
 };
+
+void tst_Application::init()
+{
+    m_dir.reset(new QTemporaryDir);
+}
+
+HST_Options tst_Application::options(const QByteArray& scenario) const
+{
+    HST_Options options;
+    options.scenarioJson = scenario;
+    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
+    options.prefsFile = m_dir->filePath(QStringLiteral("prefs.ini"));
+    // Automation: errors go to stderr and the record, never into a box nobody answers.
+    options.quit = true;
+    return options;
+}
+
+void tst_Application::loaderErrors_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("missing file") << "/nonexistent/libsynccontrol.so" << 2 << "Plug-in file not found";
+    QTest::newRow("not a library") << scenarioFile("four-cameras.json") << 2 << "Cannot load the plug-in file";
+    QTest::newRow("library without entry") << QStringLiteral(HST_NOENTRY_FILE) << 2 << "has no entry makeButtonPlugin";
+    QTest::newRow("the real plug-in") << QStringLiteral(SYNC_PLUGIN_FILE) << 0 << QString();
+}
+
+void tst_Application::loaderErrors()
+{
+    QFETCH(QString, file);
+    QFETCH(int, code);
+    QFETCH(QString, reason);
+    HST_Options options = this->options("{}");
+    options.pluginFile = file;
+    HST_Application application(options);
+    QCOMPARE(application.start(), code);
+    if (code == 0) {
+        QVERIFY(application.plugin());
+        QVERIFY(application.mainWindow()->pluginAction(pluginName));
+        return;
+    }
+    QVERIFY2(application.error().contains(reason), qPrintable(application.error()));
+    QVERIFY2(application.error().contains(file), qPrintable(application.error()));
+    QCOMPARE(application.plugin(), nullptr);
+    QCOMPARE(application.recorder()->events(QStringLiteral("hostError")).size(), 1);
+}
+
+void tst_Application::enableRuleFollowsState_data()
+{
+    QTest::addColumn<QByteArray>("scenario");
+    QTest::addColumn<bool>("before");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<bool>("after");
+
+    QTest::newRow("two cameras, leaving camera mode")
+        << QByteArray("{\"cameras\": [{}, {}]}") << true << "memory mode" << false;
+    QTest::newRow("file mode, entering camera mode")
+        << QByteArray("{\"mode\": 2, \"cameras\": [{}, {}]}") << false << "camera mode" << true;
+    QTest::newRow("one camera, a file opened")
+        << QByteArray("{\"cameras\": [{}]}") << false << "add file" << true;
+    QTest::newRow("two documents of one camera, one closed")
+        << QByteArray("{\"cameras\": [{\"documents\": 2}]}") << true << "remove first" << false;
+    QTest::newRow("no documents, a file opened")
+        << QByteArray("{}") << false << "add file" << false;
+}
+
+void tst_Application::enableRuleFollowsState()
+{
+    QFETCH(QByteArray, scenario);
+    QFETCH(bool, before);
+    QFETCH(QString, change);
+    QFETCH(bool, after);
+
+    HST_Application application(options(scenario));
+    QCOMPARE(application.start(), 0);
+    HST_Host* host = application.host();
+    QAction* button = application.mainWindow()->pluginAction(pluginName);
+    QCOMPARE(button->isEnabled(), before);
+    const int asked = application.recorder()->events(QStringLiteral("isEnabled")).size();
+    QVERIFY(asked >= 1);
+
+    if (change == QLatin1String("memory mode"))
+        host->setMode(1);
+    else if (change == QLatin1String("camera mode"))
+        host->setMode(0);
+    else if (change == QLatin1String("add file"))
+        host->addFileDocument();
+    else
+        host->removeDocument(host->documentKeys(0).first());
+    QTRY_VERIFY(application.recorder()->events(QStringLiteral("isEnabled")).size() > asked);
+    QCOMPARE(button->isEnabled(), after);
+    QCOMPARE(application.recorder()->events(QStringLiteral("isEnabled")).last().value("result").toBool(),
+             after);
+}
+
+void tst_Application::pluginExceptionArrivesAsAppException()
+{
+    // The plug-in throws its APP_Exception; the host's dynamic_cast must still see the type,
+    // which needs one type identity on both sides of the library boundary.
+    HST_Options options = this->options("{\"cameras\": [{\"documents\": 2}]}");
+    options.press = pluginName;
+    options.answers = QStringList{QStringLiteral("OK")};
+    HST_Application application(options);
+    QCOMPARE(application.run(), 0);
+    const QList<QJsonObject> reports = application.recorder()->events(QStringLiteral("reportException"));
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.first().value("text").toString(),
+             QStringLiteral("Because there is only one camera, synchronization is not necessary."));
+    QCOMPARE(reports.first().value("type").toString(), QStringLiteral("APP_Exception"));
+    QCOMPARE(reports.first().value("errorCode").toInt(), 0);
+    QCOMPARE(application.recorder()->events(QStringLiteral("step")).size(), 1);
+}
+
+void tst_Application::failedStepEndsRunWithCode3_data()
+{
+    QTest::addColumn<QString>("press");
+    QTest::addColumn<QString>("scriptError");
+
+    // The plug-in's dialog is open when the step fails: the run must close it and return.
+    QTest::newRow("button missing in plug-in dialog") << pluginName << "script step 1";
+    QTest::newRow("press names no plug-in") << QStringLiteral("nosuchplugin") << QString();
+}
+
+void tst_Application::failedStepEndsRunWithCode3()
+{
+    QFETCH(QString, press);
+    QFETCH(QString, scriptError);
+    HST_Options options = this->options("{\"cameras\": [{}, {}]}");
+    options.press = press;
+    options.steps = QJsonArray{QJsonObject{{QStringLiteral("click"), QStringLiteral("Nope")}}};
+    options.stepTimeoutMs = 500;
+    HST_Application application(options);
+    QCOMPARE(application.run(), 3);
+    QCOMPARE(QApplication::activeModalWidget(), nullptr);
+    const QList<QJsonObject> errors = application.recorder()->events(QStringLiteral("scriptError"));
+    QCOMPARE(errors.size(), scriptError.isEmpty() ? 0 : 1);
+    if (!scriptError.isEmpty())
+        QVERIFY(errors.first().value("text").toString().startsWith(scriptError));
+    else
+        QVERIFY(application.error().contains(press));
+}
+
+void tst_Application::commandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("stderrHas");
+
+    QTest::newRow("bad scenario names file and key")
+        << QStringList{"--scenario", SYNC_SOURCE_DIR "/tests/host/fixtures/duplicate-address.json"}
+        << 1 << "duplicate-address.json: \"cameras[1].ip\": duplicate camera address";
+    // Qt's application object has a "-plugin" option of its own that must not swallow ours.
+    QTest::newRow("missing plug-in file") << QStringList{"--plugin", "/nonexistent/p.so"} << 2
+                                          << "Plug-in file not found: /nonexistent/p.so";
+    QTest::newRow("unknown option") << QStringList{"--colour"} << 1 << "colour";
+    QTest::newRow("refusal answered") << QStringList{"--scenario", scenarioFile("one-camera-two-documents.json"),
+                                                     "--press", "synccontrol", "--answer", "OK"}
+                                      << 0 << QString();
+}
+
+void tst_Application::commandLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, code);
+    QFETCH(QString, stderrHas);
+    const QString record = m_dir->filePath(QStringLiteral("record.jsonl"));
+    arguments << "--prefs" << m_dir->filePath(QStringLiteral("p.ini")) << "--record" << record
+              << "--quit";
+    QProcess process;
+    process.start(QStringLiteral(HST_HOST_EXECUTABLE), arguments);
+    QVERIFY(process.waitForFinished(60000));
+    const QString errors = QString::fromLocal8Bit(process.readAllStandardError());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QVERIFY2(process.exitCode() == code, qPrintable(errors));
+    QVERIFY2(errors.contains(stderrHas), qPrintable(errors));
+    // The preferences' path is told as soon as the host exists.
+    if (code != 1)
+        QVERIFY(QString::fromLocal8Bit(process.readAllStandardOutput()).contains(QLatin1String("p.ini")));
+    if (code != 0)
+        return;
+    QFile file(record);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    bool reported = false;
+    for (const QByteArray& line : lines) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        reported |= event.value("call") == QLatin1String("reportException")
+                    && event.value("text").toString().startsWith(QLatin1String("Because"));
+    }
+    QVERIFY(reported);
+}
 
 QTEST_MAIN(tst_Application)
 #include "tst_application.moc"
