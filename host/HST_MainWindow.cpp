@@ -135,4 +135,5 @@ void HST_MainWindow::fillDocuments()
         for (int column = 0; column < cells.size(); ++column)
             m_documentTable->setItem(row, column, new QTableWidgetItem(cells.at(column)));
     }
+    m_documentTable->resizeColumnsToContents();
 }
