@@ -2,6 +2,7 @@
 #include "host/HST_Host.h"
 #include "host/HST_HubList.h"
 #include "host/HST_Recorder.h"
+#include "host/HST_ScriptRunner.h"
 #include "util/APP_ConcurrentException.h"
 #include "util/APP_Exception.h"
 
@@ -46,6 +47,10 @@ private slots:
     void preferenceReads();
     void changeAddress_data();
     void changeAddress();
+    void translate_data();
+    void translate();
+    void messageBoxesAreAnsweredAndRecorded_data();
+    void messageBoxesAreAnsweredAndRecorded();
 
 private:
     std::unique_ptr<HST_Host> makeHost(const QByteArray& json);
@@ -273,6 +278,75 @@ void tst_Host::changeAddress()
     QCOMPARE(addresses.contains(to), moved || to == QLatin1String("10.0.0.2"));
     QCOMPARE(addresses.contains(from), !moved);
     QCOMPARE(host->device(to) != nullptr, moved || to == QLatin1String("10.0.0.2"));
+}
+
+void tst_Host::translate_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("no file: identity") << QString() << "Cancel" << "Cancel";
+    QTest::newRow("translated") << HST_TEST_QM_FILE << "Synchronization is complete."
+                                << "Synchronisation abgeschlossen.";
+    QTest::newRow("missing from file: source") << HST_TEST_QM_FILE << "Syncing" << "Syncing";
+    QTest::newRow("unreadable file") << "/nonexistent/x.qm" << "Cancel" << QString();
+}
+
+void tst_Host::translate()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, source);
+    QFETCH(QString, expected);
+    auto host = makeHost("{}");
+    QString error;
+    if (!file.isEmpty() && !host->loadTranslations(file, error)) {
+        QVERIFY(expected.isEmpty());
+        QVERIFY2(error.startsWith(file), qPrintable(error));
+        return;
+    }
+    QCOMPARE(host->translate(source), expected);
+    // The plug-in's own boxes translate in the same context, through the application.
+    QCOMPARE(QCoreApplication::translate("tarvix4", qPrintable(source)), expected);
+}
+
+void tst_Host::messageBoxesAreAnsweredAndRecorded_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("click");
+    QTest::addColumn<bool>("confirmed");
+
+    QTest::newRow("confirm OK goes on") << "confirm" << "OK" << true;
+    QTest::newRow("confirm Cancel stops") << "confirm" << "Cancel" << false;
+    QTest::newRow("warning") << "warning" << "OK" << false;
+    QTest::newRow("error list") << "errorList" << "OK" << false;
+}
+
+void tst_Host::messageBoxesAreAnsweredAndRecorded()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, click);
+    QFETCH(bool, confirmed);
+    auto host = makeHost("{}");
+    HST_ScriptRunner runner(m_recorder.get());
+    runner.setSteps(HST_ScriptRunner::answerSteps({click}));
+    runner.setStepTimeout(2000);
+    runner.start();
+    const QString text = QStringLiteral("Go on?");
+    bool result = false;
+    if (kind == QLatin1String("confirm"))
+        result = host->confirm(text, nullptr, {});
+    else if (kind == QLatin1String("warning"))
+        host->showWarning(text, nullptr);
+    else
+        host->showErrorList(text, {QStringLiteral("a"), QStringLiteral("b")});
+    QVERIFY2(!runner.hasFailed(), qPrintable(runner.failure()));
+    QCOMPARE(result, confirmed);
+    const QList<QJsonObject> messages = m_recorder->events(QStringLiteral("message"));
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(messages.first().value("kind").toString(), kind);
+    QCOMPARE(messages.first().value("text").toString(), text);
+    QCOMPARE(messages.first().value("answer").toString(), click);
 }
 
 QTEST_MAIN(tst_Host)
