@@ -166,10 +166,11 @@ int HST_Application::start()
         return refuse(BadInput, problem);
 
     // The plug-in looks for the VISA library by this variable; a path that can't exist hides it.
+    const QByteArray notOffered = QByteArrayLiteral("/nonexistent/visa-not-offered");
     if (!scenario.visa)
-        qputenv(visaLibraryVariable(), QByteArrayLiteral("/nonexistent/visa-not-offered"));
+        qputenv(visaLibraryVariable(), notOffered);
 #ifdef HST_VISA_LIBRARY_FILE
-    else if (qEnvironmentVariableIsEmpty(visaLibraryVariable()))
+    else if (qgetenv(visaLibraryVariable()).isEmpty() || qgetenv(visaLibraryVariable()) == notOffered)
         qputenv(visaLibraryVariable(), QByteArrayLiteral(HST_VISA_LIBRARY_FILE));
 #endif
 

@@ -32,6 +32,8 @@ private slots:
     void pluginExceptionArrivesAsAppException();
     void failedStepEndsRunWithCode3_data();
     void failedStepEndsRunWithCode3();
+    void visaOfferedAsTheScenarioSays_data();
+    void visaOfferedAsTheScenarioSays();
     void commandLine_data();
     void commandLine();
 
@@ -182,6 +184,27 @@ void tst_Application::failedStepEndsRunWithCode3()
         QVERIFY(errors.first().value("text").toString().startsWith(scriptError));
     else
         QVERIFY(application.error().contains(press));
+}
+
+void tst_Application::visaOfferedAsTheScenarioSays_data()
+{
+    QTest::addColumn<QByteArray>("scenario");
+    QTest::addColumn<bool>("offered");
+    // In this order: a run that hid the library must not hide it from the next one.
+    QTest::newRow("not offered by default") << QByteArray("{}") << false;
+    QTest::newRow("offered") << QByteArray("{\"visa\": true}") << true;
+    QTest::newRow("hidden again") << QByteArray("{\"visa\": false}") << false;
+}
+
+void tst_Application::visaOfferedAsTheScenarioSays()
+{
+    QFETCH(QByteArray, scenario);
+    QFETCH(bool, offered);
+    HST_Application application(options(scenario));
+    QCOMPARE(application.start(), 0);
+    const QString library = QString::fromLocal8Bit(qgetenv(HST_Application::visaLibraryVariable()));
+    QVERIFY(!library.isEmpty());
+    QCOMPARE(QFileInfo(library).isFile(), offered);
 }
 
 void tst_Application::commandLine_data()
