@@ -34,6 +34,18 @@ void onGuiThread(QObject* context, Work work)
         QMetaObject::invokeMethod(context, work, Qt::BlockingQueuedConnection);
 }
 
+QString boxTitle(QMessageBox::Icon icon)
+{
+    switch (icon) {
+    case QMessageBox::Information: return QStringLiteral("Information");
+    case QMessageBox::Warning: return QStringLiteral("Warning");
+    case QMessageBox::Critical: return QStringLiteral("Error");
+    case QMessageBox::Question: return QStringLiteral("Confirmation");
+    case QMessageBox::NoIcon: break;
+    }
+    return QString();
+}
+
 } // namespace
 
 // Outside the anonymous namespace: the macro declares the resource's initialiser where it stands.
@@ -153,27 +165,24 @@ QWidget* HST_Host::parentWidget()
     return m_mainWindow;
 }
 
-QString HST_Host::runMessageBox(const QString& kind, QMessageBox::Icon icon, const QString& text,
-                                const QStringList& details, QWidget* parent, bool withCancel)
+QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessageBox::Icon icon,
+                                                   const QString& text, const QStringList& details,
+                                                   QWidget* parent, bool withCancel)
 {
-    static const QMap<QString, QString> titles{{"information", "Information"},
-                                               {"informationList", "Information"},
-                                               {"warning", "Warning"},
-                                               {"error", "Error"},
-                                               {"errorList", "Error"},
-                                               {"exception", "Error"},
-                                               {"confirm", "Confirmation"}};
+    QMessageBox::StandardButton clicked = QMessageBox::NoButton;
     QString answer;
     onGuiThread(this, [&] {
-        QMessageBox box(icon, titles.value(kind), text,
+        QMessageBox box(icon, boxTitle(icon), text,
                         withCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok,
                         parent ? parent : m_mainWindow.data());
         box.setObjectName(QStringLiteral("host_") + kind);
         if (!details.isEmpty())
             box.setInformativeText(details.join(QLatin1Char('\n')));
         box.exec();
-        if (QAbstractButton* clicked = box.clickedButton())
-            answer = clicked->text().remove(QLatin1Char('&'));
+        if (QAbstractButton* button = box.clickedButton()) {
+            clicked = box.standardButton(button);
+            answer = button->text().remove(QLatin1Char('&'));
+        }
     });
     if (kind != QLatin1String("exception")) {
         QJsonObject event{{QStringLiteral("kind"), kind},
@@ -183,7 +192,7 @@ QString HST_Host::runMessageBox(const QString& kind, QMessageBox::Icon icon, con
             event.insert(QStringLiteral("details"), QJsonArray::fromStringList(details));
         m_recorder->record(QStringLiteral("message"), event);
     }
-    return answer;
+    return clicked;
 }
 
 void HST_Host::reportException(const std::exception& e)
@@ -229,10 +238,8 @@ void HST_Host::showError(const QString& text, QWidget* parent)
 
 bool HST_Host::confirm(const QString& text, QWidget* parent, const QVariantMap&)
 {
-    const QString ok = QMessageBox(QMessageBox::Question, QString(), QString(), QMessageBox::Ok)
-                           .button(QMessageBox::Ok)->text().remove(QLatin1Char('&'));
     return runMessageBox(QStringLiteral("confirm"), QMessageBox::Question, text, {}, parent, true)
-           == ok;
+           == QMessageBox::Ok;
 }
 
 QStringList& HST_Host::fontList(QStringList& out)

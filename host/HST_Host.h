@@ -128,8 +128,10 @@ public:
     void applyChanges() override;
 
 private:
-    QString runMessageBox(const QString& kind, QMessageBox::Icon icon, const QString& text,
-                          const QStringList& details, QWidget* parent, bool withCancel);
+    // Records the box with the text of the button that closed it.
+    QMessageBox::StandardButton runMessageBox(const QString& kind, QMessageBox::Icon icon,
+                                              const QString& text, const QStringList& details,
+                                              QWidget* parent, bool withCancel);
 
     HST_Scenario m_scenario;
     HST_Recorder* m_recorder;

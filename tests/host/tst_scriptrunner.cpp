@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <QWebFrame>
+#include <QWebView>
 #include <QtTest>
 
 namespace {
@@ -75,6 +77,7 @@ private slots:
     void missingTargetFailsAndClosesWindows_data();
     void missingTargetFailsAndClosesWindows();
     void busyDialogIsWaitedThrough();
+    void scriptRunsInWebDialogPage();
     void refusesMalformedScript_data();
     void refusesMalformedScript();
 };
@@ -165,6 +168,35 @@ void tst_ScriptRunner::busyDialogIsWaitedThrough()
     runner.start();
     QCOMPARE(form.dialog.exec(), int(QDialog::Accepted));
     QVERIFY2(!runner.hasFailed(), qPrintable(runner.failure()));
+}
+
+void tst_ScriptRunner::scriptRunsInWebDialogPage()
+{
+    HST_Recorder recorder;
+    HST_ScriptRunner runner(&recorder);
+    runner.setSteps(steps(R"steps([{"js": "document.getElementById('n').value = 'Rear'; 6 * 7"},
+                             {"js": "document.getElementById('ok').click()"}])steps"));
+    runner.setStepTimeout(5000);
+    QDialog dialog;
+    auto* view = new QWebView(&dialog);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(view);
+    QString submitted;
+    // The page reports back through its title, as a page would through its mediator.
+    connect(view, &QWebView::titleChanged, &dialog, [&](const QString& title) {
+        submitted = title;
+        dialog.accept();
+    });
+    view->setHtml(QStringLiteral("<input id='n'><button id='ok' "
+                                 "onclick=\"document.title = document.getElementById('n').value\">"
+                                 "OK</button>"));
+    runner.start();
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QVERIFY2(!runner.hasFailed(), qPrintable(runner.failure()));
+    QCOMPARE(submitted, QStringLiteral("Rear"));
+    const QList<QJsonObject> results = recorder.events(QStringLiteral("js"));
+    QCOMPARE(results.size(), 2);
+    QCOMPARE(results.first().value("result").toInt(), 42);
 }
 
 void tst_ScriptRunner::refusesMalformedScript_data()
