@@ -216,16 +216,24 @@ void ScpiInstrument::pushError(int code, const char *text)
 std::string ScpiInstrument::execute(const std::string &message)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
+    // Replies to the queries of one message go out as one message, separated by ';'.
     std::string replies;
+    bool any = false;
     for (const std::string &raw : splitUnits(message)) {
         const std::string unit = trim(raw);
         if (unit.empty())
             continue;
         if (m_log)
             m_log->write(unit);
-        replies += executeUnit(unit);
+        std::string reply;
+        if (!executeUnit(unit, reply))
+            continue;
+        if (any)
+            replies += ';';
+        replies += reply;
+        any = true;
     }
-    return replies;
+    return any ? replies + "\n" : std::string();
 }
 
 bool ScpiInstrument::setFrequency(const std::string &argument)
@@ -286,7 +294,7 @@ bool ScpiInstrument::setVoltage(const std::string &header, const std::string &ar
     return true;
 }
 
-std::string ScpiInstrument::executeUnit(const std::string &unit)
+bool ScpiInstrument::executeUnit(const std::string &unit, std::string &reply)
 {
     size_t split = 0;
     while (split < unit.size() && !std::isspace(static_cast<unsigned char>(unit[split])))
@@ -299,6 +307,10 @@ std::string ScpiInstrument::executeUnit(const std::string &unit)
     const std::vector<std::string> tokens = headerTokens(header);
     const bool hasArgument = !argument.empty();
 
+    auto answer = [&reply](const std::string &text) {
+        reply = text;
+        return true;
+    };
     auto noArgument = [&]() {
         if (hasArgument)
             pushError(-108, "Parameter not allowed");
@@ -311,62 +323,62 @@ std::string ScpiInstrument::executeUnit(const std::string &unit)
     };
 
     if (headerIs(tokens, "*IDN") && query) {
-        return m_identity.maker + "," + m_identity.model + "," + m_identity.serial + ","
-               + m_identity.firmware + "\n";
+        return answer(m_identity.maker + "," + m_identity.model + "," + m_identity.serial + ","
+               + m_identity.firmware);
     }
     if (headerIs(tokens, "*RST") && !query) {
         if (noArgument())
             reset();
-        return {};
+        return false;
     }
     if (headerIs(tokens, "*CLS") && !query) {
         if (noArgument())
             m_errors.clear();
-        return {};
+        return false;
     }
     if (headerIs(tokens, "*OPC") && query)
-        return "1\n";
+        return answer("1");
     if ((headerIs(tokens, "*OPC") || headerIs(tokens, "*WAI")) && !query)
-        return {};
+        return false;
     if (headerIs(tokens, "SYSTem:ERRor[:NEXT]") && query) {
         if (m_errors.empty())
-            return "+0,\"No error\"\n";
+            return answer("+0,\"No error\"");
         const std::string error = m_errors.front();
         m_errors.pop_front();
-        return error + "\n";
+        return answer(error);
     }
     if (headerIs(tokens, "DISPlay[:STATe]")) {
         if (query)
-            return m_display ? "1\n" : "0\n";
+            return answer(m_display ? "1" : "0");
         bool on = false;
         if (needArgument() && !parseBoolean(argument, on))
             pushError(-224, "Illegal parameter value");
         else if (hasArgument)
             m_display = on;
-        return {};
+        return false;
     }
     if (headerIs(tokens, "DISPlay:TEXT[:DATA]")) {
         if (query)
-            return "\"" + m_displayText + "\"\n";
+            return answer("\"" + m_displayText + "\"");
         if (!needArgument())
-            return {};
+            return false;
         if (argument.size() < 2 || (argument.front() != '"' && argument.front() != '\'')
             || argument.back() != argument.front()) {
             pushError(-151, "Invalid string data");
-            return {};
+            return false;
         }
         m_displayText = argument.substr(1, argument.size() - 2);
-        return {};
+        return false;
     }
     if (headerIs(tokens, "DISPlay:TEXT:CLEar") && !query) {
         m_displayText.clear();
-        return {};
+        return false;
     }
     if (headerIs(tokens, "FUNCtion[:SHAPe]")) {
         if (query)
-            return m_function + "\n";
+            return answer(m_function);
         if (!needArgument())
-            return {};
+            return false;
         static const char *const shapes[][2] = {{"SIN", "SINUSOID"}, {"SQU", "SQUARE"}, {"RAMP", "RAMP"},
                                                 {"PULS", "PULSE"},   {"NOIS", "NOISE"},  {"DC", "DC"},
                                                 {"USER", "USER"}};
@@ -376,18 +388,18 @@ std::string ScpiInstrument::executeUnit(const std::string &unit)
                 m_function = s[0];
                 if (m_function == "PULS" && m_frequency > kMaxFrequencyPulse)
                     m_frequency = kMaxFrequencyPulse;
-                return {};
+                return false;
             }
         }
         pushError(-224, "Illegal parameter value");
-        return {};
+        return false;
     }
     if (headerIs(tokens, "[:SOURce]:FREQuency[:CW]")) {
         if (query)
-            return formatNumber(m_frequency) + "\n";
+            return answer(formatNumber(m_frequency));
         if (needArgument())
             setFrequency(argument);
-        return {};
+        return false;
     }
     static const char *const voltageHeaders[][2] = {{"[:SOURce]:VOLTage[:LEVel][:IMMediate][:AMPLitude]", "AMPL"},
                                                     {"[:SOURce]:VOLTage:OFFSet", "OFFSET"},
@@ -402,36 +414,36 @@ std::string ScpiInstrument::executeUnit(const std::string &unit)
                                  : which == "LOW"    ? m_offset - m_amplitude / 2
                                  : which == "OFFSET" ? m_offset
                                                      : m_amplitude;
-            return formatNumber(value) + "\n";
+            return answer(formatNumber(value));
         }
         if (needArgument())
             setVoltage(which, argument);
-        return {};
+        return false;
     }
     if (headerIs(tokens, "[:SOURce]:FUNCtion:PULSe:DCYCle")) {
         if (query)
-            return formatNumber(m_dutyCycle) + "\n";
+            return answer(formatNumber(m_dutyCycle));
         double value = 0;
         if (!needArgument())
-            return {};
+            return false;
         if (!parseNumber(argument, value))
             pushError(-224, "Illegal parameter value");
         else if (value <= 0 || value >= 100)
             pushError(-222, "Data out of range");
         else
             m_dutyCycle = value;
-        return {};
+        return false;
     }
     if (headerIs(tokens, "OUTPut[:STATe]")) {
         if (query)
-            return m_output ? "1\n" : "0\n";
+            return answer(m_output ? "1" : "0");
         bool on = false;
         if (needArgument() && !parseBoolean(argument, on))
             pushError(-224, "Illegal parameter value");
         else if (hasArgument)
             m_output = on;
-        return {};
+        return false;
     }
     pushError(-113, "Undefined header");
-    return {};
+    return false;
 }

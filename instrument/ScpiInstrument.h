@@ -33,7 +33,8 @@ public:
     static std::string formatNumber(double value);
 
 private:
-    std::string executeUnit(const std::string &unit);
+    // false for a unit that is no query.
+    bool executeUnit(const std::string &unit, std::string &reply);
     void pushError(int code, const char *text);
     bool setFrequency(const std::string &argument);
     bool setVoltage(const std::string &header, const std::string &argument);
