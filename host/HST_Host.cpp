@@ -256,8 +256,19 @@ QString HST_Host::translate(const QString& sourceText, int)
     return translated.isEmpty() ? sourceText : translated;
 }
 
+void HST_Host::failIfAsked(const char* operation)
+{
+    const QString message = m_scenario.faults.value(QLatin1String(operation));
+    if (message.isEmpty())
+        return;
+    m_recorder->record(QStringLiteral("fault"), {{QStringLiteral("operation"), operation},
+                                                 {QStringLiteral("text"), message}});
+    throw APP_Exception(message, 1);
+}
+
 void HST_Host::syncCapableTypes(QList<APP_CameraTypeRecord*>& out)
 {
+    failIfAsked("syncCapableTypes");
     out.clear();
     for (const auto& record : m_typeRecords)
         out.append(record.get());
@@ -491,6 +502,7 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
 
 bool HST_Host::isSyncRequired()
 {
+    failIfAsked("isSyncRequired");
     for (const auto& camera : m_cameras) {
         if (camera->syncRequired.load())
             return true;
@@ -500,6 +512,7 @@ bool HST_Host::isSyncRequired()
 
 void HST_Host::setActive(bool active)
 {
+    failIfAsked("setActive");
     m_hubs->setActive(active);
 }
 
@@ -515,6 +528,7 @@ void HST_Host::rollbackSearchList()
 
 void HST_Host::connectAll(int kind, bool wait)
 {
+    failIfAsked("connectAll");
     m_hubs->connectAll(kind, wait);
 }
 

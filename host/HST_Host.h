@@ -128,6 +128,8 @@ public:
     void applyChanges() override;
 
 private:
+    // Throws the scenario's fault of that operation, if it names one.
+    void failIfAsked(const char* operation);
     // Records the box with the text of the button that closed it.
     QMessageBox::StandardButton runMessageBox(const QString& kind, QMessageBox::Icon icon,
                                               const QString& text, const QStringList& details,

@@ -237,7 +237,7 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
 {
     checkKeys(root, QString(),
               {"mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync",
-               "visa", "generator"});
+               "visa", "generator", "faults"});
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
@@ -277,6 +277,13 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     out.visa = readBool(root, QString(), QStringLiteral("visa"), false);
     if (root.contains(QLatin1String("generator")))
         out.generator = readObject(root, QString(), QStringLiteral("generator"));
+    if (root.contains(QLatin1String("faults"))) {
+        const QJsonObject faults = readObject(root, QString(), QStringLiteral("faults"));
+        checkKeys(faults, QStringLiteral("faults"),
+                  {"syncCapableTypes", "isSyncRequired", "setActive", "connectAll"});
+        for (auto it = faults.begin(); it != faults.end(); ++it)
+            out.faults.insert(it.key(), readString(faults, QStringLiteral("faults"), it.key(), QString()));
+    }
 }
 
 } // namespace

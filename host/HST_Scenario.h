@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QVariantMap>
 
@@ -58,6 +59,8 @@ public:
     HST_Outcome applySync;
     bool visa = false;
     QJsonObject generator;
+    // Test hook: host operation -> message of the APP_Exception it throws.
+    QMap<QString, QString> faults;
     // Where the scenario came from, for messages.
     QString source;
 

@@ -30,6 +30,7 @@ private slots:
     void enableRuleFollowsState_data();
     void enableRuleFollowsState();
     void pluginExceptionArrivesAsAppException();
+    void hostExceptionCrossesThePlugin();
     void failedStepEndsRunWithCode3_data();
     void failedStepEndsRunWithCode3();
     void visaOfferedAsTheScenarioSays_data();
@@ -155,6 +156,33 @@ void tst_Application::pluginExceptionArrivesAsAppException()
     QCOMPARE(reports.first().value("type").toString(), QStringLiteral("APP_Exception"));
     QCOMPARE(reports.first().value("errorCode").toInt(), 0);
     QCOMPARE(application.recorder()->events(QStringLiteral("step")).size(), 1);
+}
+
+void tst_Application::hostExceptionCrossesThePlugin()
+{
+    // The host throws inside a call the plug-in makes while it checks its cameras; the
+    // exception unwinds through the plug-in's frames, is caught by its execute and handed back.
+    // What arrives must be the host's own object: same type, text and code.
+    HST_Options options = this->options(
+        "{\"cameras\": [{}, {}], \"faults\": {\"syncCapableTypes\": \"Type list unavailable.\"}}");
+    options.press = pluginName;
+    options.answers = QStringList{QStringLiteral("OK")};
+    HST_Application application(options);
+    QCOMPARE(application.run(), 0);
+    HST_Recorder* recorder = application.recorder();
+    QCOMPARE(recorder->events(QStringLiteral("fault")).size(), 1);
+    const QList<QJsonObject> reports = recorder->events(QStringLiteral("reportException"));
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.first().value("text").toString(), QStringLiteral("Type list unavailable."));
+    QCOMPARE(reports.first().value("type").toString(), QStringLiteral("APP_Exception"));
+    QCOMPARE(reports.first().value("errorCode").toInt(), 1);
+    // The plug-in's scope guards ran during the unwinding.
+    bool left = false;
+    for (const QJsonObject& line : recorder->events(QStringLiteral("log"))) {
+        const QString text = line.value("text").toString();
+        left |= text.startsWith(QLatin1String("[LEAVE]")) && text.contains(QLatin1String("GUI_SyncControl::init"));
+    }
+    QVERIFY(left);
 }
 
 void tst_Application::failedStepEndsRunWithCode3_data()

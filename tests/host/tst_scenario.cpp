@@ -65,6 +65,8 @@ void tst_Scenario::refusesBrokenScenario_data()
     QTest::newRow("preference value is a list")
         << QByteArray("{\"prefs\": {\"sync/nrack\": [1]}}") << "\"prefs.sync/nrack\""
         << "expected a boolean, number or string";
+    QTest::newRow("fault of an operation the host can't fail")
+        << QByteArray("{\"faults\": {\"translate\": \"x\"}}") << "\"faults.translate\"" << "unknown key";
     QTest::newRow("generator not an object") << QByteArray("{\"generator\": true}")
                                              << "\"generator\"" << "expected an object";
 }
