@@ -40,24 +40,35 @@ const char* HST_Application::visaLibraryVariable()
     return "SYNC_VISA_LIBRARY";
 }
 
-bool HST_Application::parseArguments(const QStringList& arguments, HST_Options& options,
-                                     QString& error)
+bool HST_Application::parseArguments(
+    const QStringList& arguments, HST_Options& options, QString& error)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Reference host for the synccontrol plug-in"));
     parser.addHelpOption();
-    const QCommandLineOption scenario(QStringLiteral("scenario"), QStringLiteral("Scenario file (JSON)."), QStringLiteral("FILE"));
-    const QCommandLineOption plugin(QStringLiteral("plugin"), QStringLiteral("Plug-in file to load."), QStringLiteral("FILE"));
-    const QCommandLineOption prefs(QStringLiteral("prefs"), QStringLiteral("Preferences file (INI)."), QStringLiteral("FILE"));
-    const QCommandLineOption translations(QStringLiteral("translations"), QStringLiteral("Translation file (.qm)."), QStringLiteral("FILE"));
-    const QCommandLineOption press(QStringLiteral("press"), QStringLiteral("Press the button of this plug-in once the window shows."), QStringLiteral("NAME"));
-    const QCommandLineOption script(QStringLiteral("script"), QStringLiteral("Steps to run against modal windows (JSON)."), QStringLiteral("FILE"));
-    const QCommandLineOption answer(QStringLiteral("answer"), QStringLiteral("Buttons to click, in order, after the script."), QStringLiteral("A,B,C"));
-    const QCommandLineOption record(QStringLiteral("record"), QStringLiteral("Write every event as a JSON line."), QStringLiteral("FILE"));
-    const QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Save the active window at the end."), QStringLiteral("FILE"));
-    const QCommandLineOption quit(QStringLiteral("quit"), QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
-    parser.addOptions({scenario, plugin, prefs, translations, press, script, answer, record,
-                       screenshot, quit});
+    const QCommandLineOption scenario(QStringLiteral("scenario"),
+        QStringLiteral("Scenario file (JSON)."), QStringLiteral("FILE"));
+    const QCommandLineOption plugin(
+        QStringLiteral("plugin"), QStringLiteral("Plug-in file to load."), QStringLiteral("FILE"));
+    const QCommandLineOption prefs(
+        QStringLiteral("prefs"), QStringLiteral("Preferences file (INI)."), QStringLiteral("FILE"));
+    const QCommandLineOption translations(QStringLiteral("translations"),
+        QStringLiteral("Translation file (.qm)."), QStringLiteral("FILE"));
+    const QCommandLineOption press(QStringLiteral("press"),
+        QStringLiteral("Press the button of this plug-in once the window shows."),
+        QStringLiteral("NAME"));
+    const QCommandLineOption script(QStringLiteral("script"),
+        QStringLiteral("Steps to run against modal windows (JSON)."), QStringLiteral("FILE"));
+    const QCommandLineOption answer(QStringLiteral("answer"),
+        QStringLiteral("Buttons to click, in order, after the script."), QStringLiteral("A,B,C"));
+    const QCommandLineOption record(QStringLiteral("record"),
+        QStringLiteral("Write every event as a JSON line."), QStringLiteral("FILE"));
+    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
+        QStringLiteral("Save the active window at the end."), QStringLiteral("FILE"));
+    const QCommandLineOption quit(QStringLiteral("quit"),
+        QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
+    parser.addOptions(
+        { scenario, plugin, prefs, translations, press, script, answer, record, screenshot, quit });
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return false;
@@ -86,7 +97,8 @@ bool HST_Application::parseArguments(const QStringList& arguments, HST_Options& 
 }
 
 HST_Application::HST_Application(const HST_Options& options, QObject* parent)
-    : QObject(parent), m_options(options)
+    : QObject(parent)
+    , m_options(options)
 {
 }
 
@@ -105,7 +117,7 @@ HST_Application::~HST_Application()
 bool HST_Application::isInteractive() const
 {
     return m_options.press.isEmpty() && m_options.scriptFile.isEmpty() && m_options.steps.isEmpty()
-           && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit;
+        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit;
 }
 
 PLG_Interface* HST_Application::plugin() const
@@ -120,7 +132,7 @@ int HST_Application::refuse(int code, const QString& message)
     printLine(stderr, message);
     if (m_recorder)
         m_recorder->record(QStringLiteral("hostError"),
-                           {{QStringLiteral("code"), code}, {QStringLiteral("text"), message}});
+            { { QStringLiteral("code"), code }, { QStringLiteral("text"), message } });
     if (isInteractive())
         QMessageBox::critical(m_window.get(), QStringLiteral("tarvix4host"), message);
     return code;
@@ -135,8 +147,8 @@ int HST_Application::start()
     HST_Scenario scenario;
     QString problem;
     if (!m_options.scenarioJson.isEmpty()) {
-        if (!HST_Scenario::fromJson(m_options.scenarioJson, QStringLiteral("(scenario text)"),
-                                    scenario, problem))
+        if (!HST_Scenario::fromJson(
+                m_options.scenarioJson, QStringLiteral("(scenario text)"), scenario, problem))
             return refuse(BadInput, problem);
     } else if (!m_options.scenarioFile.isEmpty()) {
         if (!HST_Scenario::fromFile(m_options.scenarioFile, scenario, problem))
@@ -147,8 +159,9 @@ int HST_Application::start()
     if (!m_options.scriptFile.isEmpty()) {
         QFile file(m_options.scriptFile);
         if (!file.open(QIODevice::ReadOnly))
-            return refuse(BadInput, QStringLiteral("%1: cannot read the script: %2")
-                                        .arg(m_options.scriptFile, file.errorString()));
+            return refuse(BadInput,
+                QStringLiteral("%1: cannot read the script: %2")
+                    .arg(m_options.scriptFile, file.errorString()));
         if (!HST_ScriptRunner::parse(file.readAll(), m_options.scriptFile, steps, problem))
             return refuse(BadInput, problem);
     }
@@ -157,8 +170,8 @@ int HST_Application::start()
     for (const QJsonValue& step : HST_ScriptRunner::answerSteps(m_options.answers))
         steps.append(step);
 
-    const QString prefsPath = m_options.prefsFile.isEmpty() ? HST_Preferences::defaultPath()
-                                                            : m_options.prefsFile;
+    const QString prefsPath
+        = m_options.prefsFile.isEmpty() ? HST_Preferences::defaultPath() : m_options.prefsFile;
     m_host.reset(new HST_Host(scenario, m_recorder.get(), prefsPath));
     printLine(stdout, QStringLiteral("preferences in %1").arg(m_host->preferences()->path()));
     if (!m_options.translationsFile.isEmpty()
@@ -170,7 +183,8 @@ int HST_Application::start()
     if (!scenario.visa)
         qputenv(visaLibraryVariable(), notOffered);
 #ifdef HST_VISA_LIBRARY_FILE
-    else if (qgetenv(visaLibraryVariable()).isEmpty() || qgetenv(visaLibraryVariable()) == notOffered)
+    else if (qgetenv(visaLibraryVariable()).isEmpty()
+        || qgetenv(visaLibraryVariable()) == notOffered)
         qputenv(visaLibraryVariable(), QByteArrayLiteral(HST_VISA_LIBRARY_FILE));
 #endif
 
@@ -181,21 +195,20 @@ int HST_Application::start()
     m_script->setStepTimeout(m_options.stepTimeoutMs);
     m_script->setIdleWindow(m_window.get(), [this] { return m_window->isPluginRunning(); });
     connect(m_script.get(), &HST_ScriptRunner::finished, this, &HST_Application::checkFinished,
-            Qt::QueuedConnection);
-    connect(m_window.get(), &HST_MainWindow::executeFinished, this,
-            &HST_Application::checkFinished, Qt::QueuedConnection);
+        Qt::QueuedConnection);
+    connect(m_window.get(), &HST_MainWindow::executeFinished, this, &HST_Application::checkFinished,
+        Qt::QueuedConnection);
 
-    const QString pluginFile = m_options.pluginFile.isEmpty() ? defaultPluginFile()
-                                                              : m_options.pluginFile;
+    const QString pluginFile
+        = m_options.pluginFile.isEmpty() ? defaultPluginFile() : m_options.pluginFile;
     m_loader.reset(new HST_PluginLoader(pluginFile));
     if (!m_loader->load(m_host.get(), problem))
         return refuse(PluginFailed, problem);
     m_window->addPlugin(m_loader->plugin());
     m_started = true;
     m_recorder->record(QStringLiteral("start"),
-                       {{QStringLiteral("plugin"), pluginFile},
-                        {QStringLiteral("name"), m_loader->name()},
-                        {QStringLiteral("prefs"), m_host->preferences()->path()}});
+        { { QStringLiteral("plugin"), pluginFile }, { QStringLiteral("name"), m_loader->name() },
+            { QStringLiteral("prefs"), m_host->preferences()->path() } });
     return Success;
 }
 
@@ -218,8 +231,8 @@ void HST_Application::afterShow()
     m_script->start();
     if (!m_options.press.isEmpty() && m_started) {
         if (!m_window->pluginAction(m_options.press)) {
-            refuse(ScriptFailed, QStringLiteral("--press: no plug-in button named \"%1\"")
-                                     .arg(m_options.press));
+            refuse(ScriptFailed,
+                QStringLiteral("--press: no plug-in button named \"%1\"").arg(m_options.press));
             finish(ScriptFailed);
             return;
         }
@@ -256,7 +269,7 @@ void HST_Application::finish(int code)
     m_exitCode = code;
     m_script->stop();
     saveScreenshot();
-    m_recorder->record(QStringLiteral("finish"), {{QStringLiteral("code"), code}});
+    m_recorder->record(QStringLiteral("finish"), { { QStringLiteral("code"), code } });
     m_loop.exit(code);
 }
 
@@ -270,7 +283,8 @@ void HST_Application::saveScreenshot()
     if (!window)
         window = m_window.get();
     if (!window->grab().save(m_options.screenshotFile))
-        printLine(stderr, QStringLiteral("cannot write the screenshot %1").arg(m_options.screenshotFile));
+        printLine(
+            stderr, QStringLiteral("cannot write the screenshot %1").arg(m_options.screenshotFile));
     else
         printLine(stdout, QStringLiteral("screenshot in %1").arg(m_options.screenshotFile));
 }

@@ -45,7 +45,7 @@ class HST_Application : public QObject
 public:
     enum ExitCode {
         Success = 0,
-        BadInput = 1,     // command line, scenario, script, record or translation file
+        BadInput = 1, // command line, scenario, script, record or translation file
         PluginFailed = 2, // plug-in file missing, not loadable, or without its entry
         ScriptFailed = 3, // a step found nothing to act on, or --press named no button
     };
@@ -54,8 +54,7 @@ public:
     static QString defaultPluginFile();
     // Environment variable by which the plug-in finds the VISA library.
     static const char* visaLibraryVariable();
-    static bool parseArguments(const QStringList& arguments, HST_Options& options,
-                               QString& error);
+    static bool parseArguments(const QStringList& arguments, HST_Options& options, QString& error);
 
     explicit HST_Application(const HST_Options& options, QObject* parent = nullptr);
     ~HST_Application() override;

@@ -17,7 +17,7 @@ struct HST_CameraState
     HST_Document* primary = nullptr;
     // Where erasures are told; may be null.
     HST_Recorder* recorder = nullptr;
-    std::atomic<bool> recorded{false};
-    std::atomic<bool> syncRequired{false};
-    std::atomic<int> syncCount{0};
+    std::atomic<bool> recorded { false };
+    std::atomic<bool> syncRequired { false };
+    std::atomic<int> syncCount { 0 };
 };

@@ -7,7 +7,9 @@
 #include <QVariantMap>
 
 HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex)
-    : m_key(key), m_camera(camera), m_documentIndex(documentIndex)
+    : m_key(key)
+    , m_camera(camera)
+    , m_documentIndex(documentIndex)
 {
 }
 
@@ -124,27 +126,23 @@ int HST_Document::customIndex(const QString& name) const
     return -1;
 }
 
-void HST_Document::addCustomData(const QString& name, const QString& value, const QString& unit,
-                                 bool display, bool usefilename)
+void HST_Document::addCustomData(
+    const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
 {
-    m_customData.append(QVariantMap{{QStringLiteral("name"), name},
-                                    {QStringLiteral("value"), value},
-                                    {QStringLiteral("unit"), unit},
-                                    {QStringLiteral("display"), display},
-                                    {QStringLiteral("usefilename"), usefilename}});
+    m_customData.append(QVariantMap { { QStringLiteral("name"), name },
+        { QStringLiteral("value"), value }, { QStringLiteral("unit"), unit },
+        { QStringLiteral("display"), display }, { QStringLiteral("usefilename"), usefilename } });
 }
 
-void HST_Document::setCustomData(const QString& name, const QString& value, const QString& unit,
-                                 bool display, bool usefilename)
+void HST_Document::setCustomData(
+    const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
 {
     const int index = customIndex(name);
     if (index < 0)
         return;
-    m_customData[index] = QVariantMap{{QStringLiteral("name"), name},
-                                      {QStringLiteral("value"), value},
-                                      {QStringLiteral("unit"), unit},
-                                      {QStringLiteral("display"), display},
-                                      {QStringLiteral("usefilename"), usefilename}};
+    m_customData[index] = QVariantMap { { QStringLiteral("name"), name },
+        { QStringLiteral("value"), value }, { QStringLiteral("unit"), unit },
+        { QStringLiteral("display"), display }, { QStringLiteral("usefilename"), usefilename } };
 }
 
 void HST_Document::removeCustomData(const QString& name)
@@ -191,7 +189,7 @@ void HST_Document::eraseRecordedData(int)
     m_camera->recorded.store(false);
     if (m_camera->recorder)
         m_camera->recorder->record(QStringLiteral("eraseRecordedData"),
-                                   {{QStringLiteral("camera"), m_camera->spec.ip}});
+            { { QStringLiteral("camera"), m_camera->spec.ip } });
 }
 
 void HST_Document::networkAddresses(QString& ip, QString& subnetmask, QString& gateway)
@@ -225,12 +223,12 @@ int HST_Document::lowLightMode()
 
 QList<int>& HST_Document::partitions(QList<int>& out)
 {
-    out = m_camera ? QList<int>{1} : QList<int>();
+    out = m_camera ? QList<int> { 1 } : QList<int>();
     return out;
 }
 
-QString& HST_Document::numberOptionText(QString& out, int, int, int, bool* usesSession,
-                                        const QDateTime*)
+QString& HST_Document::numberOptionText(
+    QString& out, int, int, int, bool* usesSession, const QDateTime*)
 {
     if (usesSession)
         *usesSession = false;

@@ -24,7 +24,7 @@ public:
     void heads(QList<DOC_Interface*>& out, bool all = true) override;
     int headCount() override { return 1; }
     bool isConnected() override { return m_camera != nullptr; }
-    void setConnectWanted(bool) override {}
+    void setConnectWanted(bool) override { }
     bool isSelected() override { return false; }
     bool isSelectedMulti() override { return false; }
     bool holdsCameraMemory() override { return m_camera != nullptr; }
@@ -33,16 +33,16 @@ public:
     QString& baseName(QString& out) override;
     bool isMobile() override { return false; }
     QString& partitionName(QString& out, int partition) override;
-    void refresh(bool) override {}
+    void refresh(bool) override { }
     QString& sortName(QString& out) override;
 
     // DOC_Feed, DOC_Playback
-    void restart(bool) override {}
+    void restart(bool) override { }
     unsigned partitionFrames(int, int = 0) override { return 1000; }
 
     // DOC_ImageData
     QSize imageSize(QSize& out) override;
-    void setCursorPosition(const QPoint&) override {}
+    void setCursorPosition(const QPoint&) override { }
     void extent(QSize& out) override { out = imageSizeValue(); }
     void viewToImage(QPoint& out, const QPoint& viewPos, bool) override { out = viewPos; }
     bool isRotatedQuarter() override { return false; }
@@ -66,7 +66,7 @@ public:
     QString& recordingTime(QString& out) override;
     int triggerMode() override;
     int currentPartition(bool = true) override { return m_camera ? 1 : 0; }
-    void setPartitionDirty(int = 0) override {}
+    void setPartitionDirty(int = 0) override { }
     int partitionCount(int = 0, int = 0) override { return m_camera ? 1 : 0; }
     bool isFunctionSupported(int functionId, bool current = true) override;
     bool hasSiblingHeads() override { return false; }
@@ -75,10 +75,10 @@ public:
     void firmwareVersion3(QString& out) override { out.clear(); }
     QVariantList& customData(QVariantList& out) override { return out = m_customData; }
     void clearCustomData() override { m_customData.clear(); }
-    void addCustomData(const QString& name, const QString& value, const QString& unit,
-                       bool display, bool usefilename) override;
-    void setCustomData(const QString& name, const QString& value, const QString& unit,
-                       bool display, bool usefilename) override;
+    void addCustomData(const QString& name, const QString& value, const QString& unit, bool display,
+        bool usefilename) override;
+    void setCustomData(const QString& name, const QString& value, const QString& unit, bool display,
+        bool usefilename) override;
     void removeCustomData(const QString& name) override;
     void renameCustomData(const QString& oldName, const QString& newName) override;
     bool isFitMemoryMode() override { return false; }
@@ -89,34 +89,47 @@ public:
     bool isCFastManaged() override { return false; }
     bool isSdSlotEnabled(int) override { return false; }
     void sdCardInfo(int, int& speedMode, int& speedClass, int& megabytes) override
-    { speedMode = speedClass = megabytes = 0; }
+    {
+        speedMode = speedClass = megabytes = 0;
+    }
     void sdSlotStatus(int, int& inserted, int& isProtected, int& formatted) override
-    { inserted = isProtected = formatted = 0; }
+    {
+        inserted = isProtected = formatted = 0;
+    }
     void sdDataFrames(int, int, int& frames) override { frames = 0; }
     void sdDataDateTime(int, int, int& date, int& time) override { date = time = 0; }
-    void formatSdSlot(int) override {}
-    void finishSdFormat(int) override {}
+    void formatSdSlot(int) override { }
+    void finishSdFormat(int) override { }
     bool isVaultPackSlotEnabled(int) override { return false; }
     bool canConvertVaultPackDataName(int = 0) override { return false; }
     void vaultPackSpace(int, int& total, int& freeMegabytes) override { total = freeMegabytes = 0; }
     void vaultPackSlotStatus(int, int& connected, int& formatted) override
-    { connected = formatted = 0; }
-    void setVaultPackDataName(int, int, const QString&, int = 0) override {}
-    QString& vaultPackDataName(QString& out, int, int) override { out.clear(); return out; }
+    {
+        connected = formatted = 0;
+    }
+    void setVaultPackDataName(int, int, const QString&, int = 0) override { }
+    QString& vaultPackDataName(QString& out, int, int) override
+    {
+        out.clear();
+        return out;
+    }
     void vaultPackDataFrames(int, int, int& frames) override { frames = 0; }
     void vaultPackDataDateTime(int, int, int& date, int& time) override { date = time = 0; }
-    void formatVaultPackSlot(int) override {}
-    void finishVaultPackFormat(int) override {}
+    void formatVaultPackSlot(int) override { }
+    void finishVaultPackFormat(int) override { }
     quint64 vaultPackDataLimit(int) override { return 0; }
     int vaultPackSlotNo() override { return 0; }
     bool isCFastSlotEnabled(int) override { return false; }
     void cfastSpace(int, quint64& total, quint64& freeBytes, int& dataCount) override
-    { total = freeBytes = 0; dataCount = 0; }
+    {
+        total = freeBytes = 0;
+        dataCount = 0;
+    }
     void cfastSlotStatus(int, int& inserted, int& formatted) override { inserted = formatted = 0; }
     void cfastDataFrames(int, int, int& frames) override { frames = 0; }
     void cfastDataDateTime(int, int, int& date, int& time) override { date = time = 0; }
-    void formatCFastSlot(int) override {}
-    void finishCFastFormat(int) override {}
+    void formatCFastSlot(int) override { }
+    void finishCFastFormat(int) override { }
     bool isDummy() override;
     bool hasRecordedData() override;
     void eraseRecordedData(int = 0) override;
@@ -131,10 +144,10 @@ public:
     int lowLightMode() override;
 
     // DOC_Partitions
-    void selectPartition(int) override {}
+    void selectPartition(int) override { }
     QList<int>& partitions(QList<int>& out) override;
-    QString& numberOptionText(QString& out, int, int, int, bool* usesSession,
-                              const QDateTime*) override;
+    QString& numberOptionText(
+        QString& out, int, int, int, bool* usesSession, const QDateTime*) override;
     int deviceCount() override { return 1; }
 
     // DOC_Display
@@ -149,10 +162,10 @@ public:
     // DOC_HeadGroup
     bool isHeadGroupOwner() override { return false; }
     bool isHeadOfGroup() override { return false; }
-    void selectHead(DOC_Interface*) override {}
-    void unselectHead(DOC_Interface*) override {}
-    void unselectAllHeads() override {}
-    void selectAllHeads() override {}
+    void selectHead(DOC_Interface*) override { }
+    void unselectHead(DOC_Interface*) override { }
+    void unselectAllHeads() override { }
+    void selectAllHeads() override { }
 
 private:
     QSize imageSizeValue() const;

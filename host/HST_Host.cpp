@@ -25,8 +25,7 @@ namespace {
 const char translationContext[] = "tarvix4";
 
 // Runs work on the GUI thread and waits for it; message boxes must not open on a worker.
-template <typename Work>
-void onGuiThread(QObject* context, Work work)
+template <typename Work> void onGuiThread(QObject* context, Work work)
 {
     if (QThread::currentThread() == context->thread())
         work();
@@ -37,11 +36,16 @@ void onGuiThread(QObject* context, Work work)
 QString boxTitle(QMessageBox::Icon icon)
 {
     switch (icon) {
-    case QMessageBox::Information: return QStringLiteral("Information");
-    case QMessageBox::Warning: return QStringLiteral("Warning");
-    case QMessageBox::Critical: return QStringLiteral("Error");
-    case QMessageBox::Question: return QStringLiteral("Confirmation");
-    case QMessageBox::NoIcon: break;
+    case QMessageBox::Information:
+        return QStringLiteral("Information");
+    case QMessageBox::Warning:
+        return QStringLiteral("Warning");
+    case QMessageBox::Critical:
+        return QStringLiteral("Error");
+    case QMessageBox::Question:
+        return QStringLiteral("Confirmation");
+    case QMessageBox::NoIcon:
+        break;
     }
     return QString();
 }
@@ -54,14 +58,14 @@ static void initResources()
     Q_INIT_RESOURCE(tarvixhost);
 }
 
-HST_Host::HST_Host(const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath,
-                   QObject* parent)
-    : QObject(parent),
-      m_scenario(scenario),
-      m_recorder(recorder),
-      m_prefs(new HST_Preferences(prefsPath, recorder)),
-      m_mode(scenario.mode),
-      m_hubs(new HST_HubList(scenario.hubs, recorder))
+HST_Host::HST_Host(
+    const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
+    : QObject(parent)
+    , m_scenario(scenario)
+    , m_recorder(recorder)
+    , m_prefs(new HST_Preferences(prefsPath, recorder))
+    , m_mode(scenario.mode)
+    , m_hubs(new HST_HubList(scenario.hubs, recorder))
 {
     initResources();
     for (auto it = scenario.prefs.begin(); it != scenario.prefs.end(); ++it)
@@ -125,7 +129,7 @@ void HST_Host::setMode(int mode)
     if (mode == m_mode)
         return;
     m_mode = mode;
-    m_recorder->record(QStringLiteral("mode"), {{QStringLiteral("mode"), mode}});
+    m_recorder->record(QStringLiteral("mode"), { { QStringLiteral("mode"), mode } });
     emit stateChanged();
 }
 
@@ -140,7 +144,7 @@ int HST_Host::addFileDocument()
 void HST_Host::updateUI(unsigned mask, bool flag)
 {
     m_recorder->record(QStringLiteral("updateUI"),
-                       {{QStringLiteral("mask"), double(mask)}, {QStringLiteral("flag"), flag}});
+        { { QStringLiteral("mask"), double(mask) }, { QStringLiteral("flag"), flag } });
 }
 
 QVariant& HST_Host::defaultVariant(QVariant& out, const QString& key)
@@ -152,7 +156,7 @@ QVariant& HST_Host::defaultVariant(QVariant& out, const QString& key)
 void HST_Host::restoreDefault(const QString& key)
 {
     m_prefs->remove(key);
-    m_recorder->record(QStringLiteral("restoreDefault"), {{QStringLiteral("key"), key}});
+    m_recorder->record(QStringLiteral("restoreDefault"), { { QStringLiteral("key"), key } });
 }
 
 QWidget* HST_Host::getMainWindow()
@@ -166,15 +170,14 @@ QWidget* HST_Host::parentWidget()
 }
 
 QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessageBox::Icon icon,
-                                                   const QString& text, const QStringList& details,
-                                                   QWidget* parent, bool withCancel)
+    const QString& text, const QStringList& details, QWidget* parent, bool withCancel)
 {
     QMessageBox::StandardButton clicked = QMessageBox::NoButton;
     QString answer;
     onGuiThread(this, [&] {
         QMessageBox box(icon, boxTitle(icon), text,
-                        withCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok,
-                        parent ? parent : m_mainWindow.data());
+            withCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok,
+            parent ? parent : m_mainWindow.data());
         box.setObjectName(QStringLiteral("host_") + kind);
         if (!details.isEmpty())
             box.setInformativeText(details.join(QLatin1Char('\n')));
@@ -185,9 +188,8 @@ QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessag
         }
     });
     if (kind != QLatin1String("exception")) {
-        QJsonObject event{{QStringLiteral("kind"), kind},
-                          {QStringLiteral("text"), text},
-                          {QStringLiteral("answer"), answer}};
+        QJsonObject event { { QStringLiteral("kind"), kind }, { QStringLiteral("text"), text },
+            { QStringLiteral("answer"), answer } };
         if (!details.isEmpty())
             event.insert(QStringLiteral("details"), QJsonArray::fromStringList(details));
         m_recorder->record(QStringLiteral("message"), event);
@@ -198,7 +200,7 @@ QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessag
 void HST_Host::reportException(const std::exception& e)
 {
     const QString text = QString::fromUtf8(e.what());
-    QJsonObject event{{QStringLiteral("text"), text}};
+    QJsonObject event { { QStringLiteral("text"), text } };
     // Proves the type survived the library boundary, not only the text.
     if (const auto* appException = dynamic_cast<const APP_Exception*>(&e)) {
         event.insert(QStringLiteral("type"), QStringLiteral("APP_Exception"));
@@ -217,8 +219,8 @@ void HST_Host::showInformation(const QString& text, QWidget* parent)
 
 void HST_Host::showInformationList(const QString& text, const QStringList& details, int)
 {
-    runMessageBox(QStringLiteral("informationList"), QMessageBox::Information, text, details,
-                  nullptr, false);
+    runMessageBox(
+        QStringLiteral("informationList"), QMessageBox::Information, text, details, nullptr, false);
 }
 
 void HST_Host::showWarning(const QString& text, QWidget* parent)
@@ -228,7 +230,8 @@ void HST_Host::showWarning(const QString& text, QWidget* parent)
 
 void HST_Host::showErrorList(const QString& text, const QStringList& details, int)
 {
-    runMessageBox(QStringLiteral("errorList"), QMessageBox::Critical, text, details, nullptr, false);
+    runMessageBox(
+        QStringLiteral("errorList"), QMessageBox::Critical, text, details, nullptr, false);
 }
 
 void HST_Host::showError(const QString& text, QWidget* parent)
@@ -239,7 +242,7 @@ void HST_Host::showError(const QString& text, QWidget* parent)
 bool HST_Host::confirm(const QString& text, QWidget* parent, const QVariantMap&)
 {
     return runMessageBox(QStringLiteral("confirm"), QMessageBox::Question, text, {}, parent, true)
-           == QMessageBox::Ok;
+        == QMessageBox::Ok;
 }
 
 QStringList& HST_Host::fontList(QStringList& out)
@@ -261,8 +264,8 @@ void HST_Host::failIfAsked(const char* operation)
     const QString message = m_scenario.faults.value(QLatin1String(operation));
     if (message.isEmpty())
         return;
-    m_recorder->record(QStringLiteral("fault"), {{QStringLiteral("operation"), operation},
-                                                 {QStringLiteral("text"), message}});
+    m_recorder->record(QStringLiteral("fault"),
+        { { QStringLiteral("operation"), operation }, { QStringLiteral("text"), message } });
     throw APP_Exception(message, 1);
 }
 
@@ -329,14 +332,14 @@ void HST_Host::endModalDialog()
 {
     --m_modalDepth;
     m_recorder->record(QStringLiteral("modal"),
-                       {{QStringLiteral("op"), "end"}, {QStringLiteral("depth"), m_modalDepth}});
+        { { QStringLiteral("op"), "end" }, { QStringLiteral("depth"), m_modalDepth } });
 }
 
 void HST_Host::beginModalDialog()
 {
     ++m_modalDepth;
     m_recorder->record(QStringLiteral("modal"),
-                       {{QStringLiteral("op"), "begin"}, {QStringLiteral("depth"), m_modalDepth}});
+        { { QStringLiteral("op"), "begin" }, { QStringLiteral("depth"), m_modalDepth } });
 }
 
 QString& HST_Host::versionText(QString& out)
@@ -347,7 +350,7 @@ QString& HST_Host::versionText(QString& out)
 
 void HST_Host::runWithBusyDialog(const QString& text, QFutureWatcher<void>* watcher)
 {
-    m_recorder->record(QStringLiteral("busy"), {{QStringLiteral("text"), text}});
+    m_recorder->record(QStringLiteral("busy"), { { QStringLiteral("text"), text } });
     {
         QProgressDialog dialog(text, QString(), 0, 0, m_mainWindow);
         dialog.setObjectName(QStringLiteral("host_busy"));
@@ -392,13 +395,14 @@ void HST_Host::removeDocument(int key)
         return;
     if (m_currentKey == key)
         m_currentKey = m_documents.isEmpty() ? INVALID_DOCKEY : m_documents.firstKey();
-    m_recorder->record(QStringLiteral("removeDocument"), {{QStringLiteral("key"), key}});
+    m_recorder->record(QStringLiteral("removeDocument"), { { QStringLiteral("key"), key } });
     emit stateChanged();
 }
 
 void HST_Host::documentsChanged(bool refresh)
 {
-    m_recorder->record(QStringLiteral("documentsChanged"), {{QStringLiteral("refresh"), refresh}});
+    m_recorder->record(
+        QStringLiteral("documentsChanged"), { { QStringLiteral("refresh"), refresh } });
     emit stateChanged();
 }
 
@@ -444,8 +448,7 @@ QList<DOC_Interface*>& HST_Host::allDocuments(QList<DOC_Interface*>& out)
 }
 
 void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor,
-                         bool external, bool generatorControl, int syncIn, int frequency,
-                         int polarity)
+    bool external, bool generatorControl, int syncIn, int frequency, int polarity)
 {
     // Runs on the sync worker: only immutable scenario data, atomics and the recorder here.
     QJsonArray addresses;
@@ -464,15 +467,12 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
     if (!external && !master)
         refusal = QStringLiteral("A chain connection needs a master camera.");
 
-    QJsonObject event{{QStringLiteral("cameras"), addresses},
-                      {QStringLiteral("master"),
-                       masterState ? QJsonValue(masterState->spec.ip) : QJsonValue()},
-                      {QStringLiteral("distributor"), distributor},
-                      {QStringLiteral("external"), external},
-                      {QStringLiteral("generatorControl"), generatorControl},
-                      {QStringLiteral("syncIn"), syncIn},
-                      {QStringLiteral("frequency"), frequency},
-                      {QStringLiteral("polarity"), polarity}};
+    QJsonObject event { { QStringLiteral("cameras"), addresses },
+        { QStringLiteral("master"), masterState ? QJsonValue(masterState->spec.ip) : QJsonValue() },
+        { QStringLiteral("distributor"), distributor }, { QStringLiteral("external"), external },
+        { QStringLiteral("generatorControl"), generatorControl },
+        { QStringLiteral("syncIn"), syncIn }, { QStringLiteral("frequency"), frequency },
+        { QStringLiteral("polarity"), polarity } };
     if (!refusal.isEmpty()) {
         event.insert(QStringLiteral("result"), QStringLiteral("refused"));
         event.insert(QStringLiteral("error"), refusal);
@@ -494,7 +494,7 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
         // A camera that must be empty for a sync is emptied by it.
         if (state->spec.needsErase && state->recorded.exchange(false))
             m_recorder->record(QStringLiteral("eraseRecordedData"),
-                               {{QStringLiteral("camera"), state->spec.ip}});
+                { { QStringLiteral("camera"), state->spec.ip } });
         state->syncRequired.store(false);
         ++state->syncCount;
     }

@@ -30,7 +30,7 @@ class HST_Host : public QObject, public HST_NeutralHost
 
 public:
     HST_Host(const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath,
-             QObject* parent = nullptr);
+        QObject* parent = nullptr);
     ~HST_Host() override;
 
     const HST_Scenario& scenario() const { return m_scenario; }
@@ -62,8 +62,8 @@ public:
     QWidget* parentWidget() override;
     void reportException(const std::exception& e) override;
     void showInformation(const QString& text, QWidget* parent) override;
-    void showInformationList(const QString& text, const QStringList& details,
-                             int reserved = 0) override;
+    void showInformationList(
+        const QString& text, const QStringList& details, int reserved = 0) override;
     void showWarning(const QString& text, QWidget* parent) override;
     void showErrorList(const QString& text, const QStringList& details, int reserved = 0) override;
     void showError(const QString& text, QWidget* parent) override;
@@ -100,7 +100,8 @@ public:
     void documentsChanged(bool refresh = true) override;
     int selectedDocumentCount() override { return m_documents.size(); }
     QList<int>& documentKeysForList(QList<int>& out, int filter = 1) override;
-    QList<int>& openedDocumentKeys(QList<int>& out, bool first = true, bool second = false) override;
+    QList<int>& openedDocumentKeys(
+        QList<int>& out, bool first = true, bool second = false) override;
     QList<int>& liveDocumentKeys(QList<int>& out, int filter = 0) override;
     QList<int> documentKeys(int filter = 0) override;
     QList<int>& orderedKeys(QList<int>& out) override;
@@ -108,9 +109,8 @@ public:
     QList<DOC_Interface*>& allDocuments(QList<DOC_Interface*>& out) override;
 
     // APP_CameraManager
-    void applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor,
-                   bool external, bool generatorControl, int syncIn, int frequency,
-                   int polarity) override;
+    void applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor, bool external,
+        bool generatorControl, int syncIn, int frequency, int polarity) override;
     bool isSyncRequired() override;
 
     // APP_LinkCoreManager
@@ -132,8 +132,7 @@ private:
     void failIfAsked(const char* operation);
     // Records the box with the text of the button that closed it.
     QMessageBox::StandardButton runMessageBox(const QString& kind, QMessageBox::Icon icon,
-                                              const QString& text, const QStringList& details,
-                                              QWidget* parent, bool withCancel);
+        const QString& text, const QStringList& details, QWidget* parent, bool withCancel);
 
     HST_Scenario m_scenario;
     HST_Recorder* m_recorder;

@@ -52,7 +52,7 @@ void HST_HubList::setActive(bool active)
         QMutexLocker locker(&m_mutex);
         m_active = active;
     }
-    record(QStringLiteral("setActive"), {{QStringLiteral("active"), active}});
+    record(QStringLiteral("setActive"), { { QStringLiteral("active"), active } });
 }
 
 void HST_HubList::commitSearchList()
@@ -75,7 +75,8 @@ void HST_HubList::rollbackSearchList()
 
 void HST_HubList::connectAll(int kind, bool wait)
 {
-    record(QStringLiteral("connectAll"), {{QStringLiteral("kind"), kind}, {QStringLiteral("wait"), wait}});
+    record(QStringLiteral("connectAll"),
+        { { QStringLiteral("kind"), kind }, { QStringLiteral("wait"), wait } });
 }
 
 void HST_HubList::shutdown()
@@ -102,7 +103,7 @@ void HST_HubList::addSearchAddress(const QString& ip)
             m_hubs.emplace_back(new HST_LinkCoreHub(spec));
         }
     }
-    record(QStringLiteral("addSearchAddress"), {{QStringLiteral("ip"), ip}});
+    record(QStringLiteral("addSearchAddress"), { { QStringLiteral("ip"), ip } });
 }
 
 void HST_HubList::removeSearchAddress(const QString& ip)
@@ -111,7 +112,7 @@ void HST_HubList::removeSearchAddress(const QString& ip)
         QMutexLocker locker(&m_mutex);
         m_editAddresses.removeAll(ip);
     }
-    record(QStringLiteral("removeSearchAddress"), {{QStringLiteral("ip"), ip}});
+    record(QStringLiteral("removeSearchAddress"), { { QStringLiteral("ip"), ip } });
 }
 
 QStringList HST_HubList::addresses()
@@ -122,7 +123,7 @@ QStringList HST_HubList::addresses()
 
 void HST_HubList::changeAddress(const QString& oldIp, const QString& newIp)
 {
-    QJsonObject event{{QStringLiteral("old"), oldIp}, {QStringLiteral("new"), newIp}};
+    QJsonObject event { { QStringLiteral("old"), oldIp }, { QStringLiteral("new"), newIp } };
     HST_LinkCoreHub* target = nullptr;
     QString refusal;
     {
@@ -149,7 +150,7 @@ void HST_HubList::changeAddress(const QString& oldIp, const QString& newIp)
     {
         QMutexLocker locker(&m_mutex);
         target->setIp(newIp);
-        for (QStringList* list : {&m_addresses, &m_editAddresses}) {
+        for (QStringList* list : { &m_addresses, &m_editAddresses }) {
             for (QString& address : *list) {
                 if (address == oldIp)
                     address = newIp;

@@ -2,7 +2,8 @@
 
 #include <QMutexLocker>
 
-HST_LinkCoreHub::HST_LinkCoreHub(const HST_HubSpec& spec) : m_spec(spec)
+HST_LinkCoreHub::HST_LinkCoreHub(const HST_HubSpec& spec)
+    : m_spec(spec)
 {
 }
 

@@ -14,10 +14,10 @@
 #include <QToolBar>
 
 HST_MainWindow::HST_MainWindow(HST_Host* host)
-    : m_host(host),
-      m_toolBar(addToolBar(QStringLiteral("Plug-ins"))),
-      m_modeBox(new QComboBox(this)),
-      m_documentTable(new QTableWidget(0, 5, this))
+    : m_host(host)
+    , m_toolBar(addToolBar(QStringLiteral("Plug-ins")))
+    , m_modeBox(new QComboBox(this))
+    , m_documentTable(new QTableWidget(0, 5, this))
 {
     setObjectName(QStringLiteral("host_mainWindow"));
     setWindowTitle(QStringLiteral("tarvix4host"));
@@ -28,7 +28,8 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     stateBar->setMovable(false);
     stateBar->addWidget(new QLabel(QStringLiteral(" Mode "), this));
     m_modeBox->setObjectName(QStringLiteral("host_mode"));
-    m_modeBox->addItems({QStringLiteral("Live"), QStringLiteral("Memory"), QStringLiteral("File")});
+    m_modeBox->addItems(
+        { QStringLiteral("Live"), QStringLiteral("Memory"), QStringLiteral("File") });
     m_modeBox->setCurrentIndex(host->saveTargetKind());
     stateBar->addWidget(m_modeBox);
     connect(m_modeBox, QOverload<int>::of(&QComboBox::activated), host, &HST_Host::setMode);
@@ -41,9 +42,8 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     });
 
     m_documentTable->setObjectName(QStringLiteral("host_documents"));
-    m_documentTable->setHorizontalHeaderLabels({QStringLiteral("Key"), QStringLiteral("Name"),
-                                                QStringLiteral("Address"), QStringLiteral("Type"),
-                                                QStringLiteral("Model")});
+    m_documentTable->setHorizontalHeaderLabels({ QStringLiteral("Key"), QStringLiteral("Name"),
+        QStringLiteral("Address"), QStringLiteral("Type"), QStringLiteral("Model") });
     m_documentTable->horizontalHeader()->setStretchLastSection(true);
     m_documentTable->verticalHeader()->hide();
     m_documentTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -52,8 +52,8 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     resize(800, 400);
 
     // Queued: the plug-in may report a change from inside one of its own operations.
-    connect(host, &HST_Host::stateChanged, this, &HST_MainWindow::refreshState,
-            Qt::QueuedConnection);
+    connect(
+        host, &HST_Host::stateChanged, this, &HST_MainWindow::refreshState, Qt::QueuedConnection);
     fillDocuments();
 }
 
@@ -77,9 +77,8 @@ bool HST_MainWindow::press(const QString& name)
 {
     QAction* action = pluginAction(name);
     m_host->recorder()->record(QStringLiteral("press"),
-                               {{QStringLiteral("name"), name},
-                                {QStringLiteral("found"), action != nullptr},
-                                {QStringLiteral("enabled"), action && action->isEnabled()}});
+        { { QStringLiteral("name"), name }, { QStringLiteral("found"), action != nullptr },
+            { QStringLiteral("enabled"), action && action->isEnabled() } });
     if (!action || !action->isEnabled())
         return false;
     action->trigger();
@@ -93,8 +92,7 @@ void HST_MainWindow::refreshState()
     for (auto it = m_plugins.begin(); it != m_plugins.end(); ++it) {
         const bool enabled = it.value()->isEnabled();
         m_host->recorder()->record(QStringLiteral("isEnabled"),
-                                   {{QStringLiteral("name"), it.key()},
-                                    {QStringLiteral("result"), enabled}});
+            { { QStringLiteral("name"), it.key() }, { QStringLiteral("result"), enabled } });
         m_actions.value(it.key())->setEnabled(enabled);
         it.value()->update();
     }
@@ -104,7 +102,7 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
 {
     HST_Recorder* recorder = m_host->recorder();
     recorder->record(QStringLiteral("execute"),
-                     {{QStringLiteral("name"), name}, {QStringLiteral("phase"), "begin"}});
+        { { QStringLiteral("name"), name }, { QStringLiteral("phase"), "begin" } });
     ++m_running;
     try {
         plugin->execute();
@@ -115,7 +113,7 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
     }
     --m_running;
     recorder->record(QStringLiteral("execute"),
-                     {{QStringLiteral("name"), name}, {QStringLiteral("phase"), "end"}});
+        { { QStringLiteral("name"), name }, { QStringLiteral("phase"), "end" } });
     emit executeFinished(name);
 }
 
@@ -127,11 +125,11 @@ void HST_MainWindow::fillDocuments()
         auto* document = static_cast<HST_Document*>(m_host->document(keys.at(row)));
         const HST_CameraState* camera = document->cameraState();
         QString name;
-        const QStringList cells{QString::number(keys.at(row)),
-                                camera ? camera->spec.name : document->baseName(name),
-                                camera ? camera->spec.ip : QString(),
-                                camera ? QString::number(camera->spec.type) : QString(),
-                                camera ? camera->spec.model : QStringLiteral("(file)")};
+        const QStringList cells { QString::number(keys.at(row)),
+            camera ? camera->spec.name : document->baseName(name),
+            camera ? camera->spec.ip : QString(),
+            camera ? QString::number(camera->spec.type) : QString(),
+            camera ? camera->spec.model : QStringLiteral("(file)") };
         for (int column = 0; column < cells.size(); ++column)
             m_documentTable->setItem(row, column, new QTableWidgetItem(cells.at(column)));
     }

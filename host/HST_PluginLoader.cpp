@@ -8,7 +8,9 @@ namespace {
 const char entryName[] = "makeButtonPlugin";
 }
 
-HST_PluginLoader::HST_PluginLoader(const QString& path) : m_path(path), m_library(path)
+HST_PluginLoader::HST_PluginLoader(const QString& path)
+    : m_path(path)
+    , m_library(path)
 {
 }
 

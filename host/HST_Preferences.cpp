@@ -9,7 +9,8 @@
 #include <QStandardPaths>
 
 HST_Preferences::HST_Preferences(const QString& path, HST_Recorder* recorder)
-    : m_settings(path, QSettings::IniFormat), m_recorder(recorder)
+    : m_settings(path, QSettings::IniFormat)
+    , m_recorder(recorder)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
 }
@@ -22,7 +23,7 @@ QString HST_Preferences::path() const
 QString HST_Preferences::defaultPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-           + QStringLiteral("/tarvix4host/preferences.ini");
+        + QStringLiteral("/tarvix4host/preferences.ini");
 }
 
 QVariant HST_Preferences::hostDefault(const QString& key)
@@ -33,12 +34,12 @@ QVariant HST_Preferences::hostDefault(const QString& key)
         const char* key;
         QVariant value;
     } defaults[] = {
-        {"sync/external", false},
-        {"sync/generator/ctrl", false},
-        {"sync/masterCamera", QString()},
-        {"sync/generator/address", QString()},
-        {"env/style", QStringLiteral("light")},
-        {"main/scrno", 0},
+        { "sync/external", false },
+        { "sync/generator/ctrl", false },
+        { "sync/masterCamera", QString() },
+        { "sync/generator/address", QString() },
+        { "env/style", QStringLiteral("light") },
+        { "main/scrno", 0 },
     };
     for (const auto& entry : defaults) {
         if (key == QLatin1String(entry.key))
@@ -68,8 +69,8 @@ void HST_Preferences::setValue(const QString& key, const QVariant& value)
     preset(key, value);
     if (m_recorder)
         m_recorder->record(QStringLiteral("setPref"),
-                           {{QStringLiteral("key"), key},
-                            {QStringLiteral("value"), QJsonValue::fromVariant(value)}});
+            { { QStringLiteral("key"), key },
+                { QStringLiteral("value"), QJsonValue::fromVariant(value) } });
 }
 
 void HST_Preferences::preset(const QString& key, const QVariant& value)

@@ -7,17 +7,22 @@
 
 namespace {
 
-std::atomic<HST_Recorder*> s_active{nullptr};
-std::atomic<QtMessageHandler> s_previous{nullptr};
+std::atomic<HST_Recorder*> s_active { nullptr };
+std::atomic<QtMessageHandler> s_previous { nullptr };
 
 QString levelName(QtMsgType type)
 {
     switch (type) {
-    case QtDebugMsg: return QStringLiteral("debug");
-    case QtInfoMsg: return QStringLiteral("info");
-    case QtWarningMsg: return QStringLiteral("warning");
-    case QtCriticalMsg: return QStringLiteral("critical");
-    case QtFatalMsg: return QStringLiteral("fatal");
+    case QtDebugMsg:
+        return QStringLiteral("debug");
+    case QtInfoMsg:
+        return QStringLiteral("info");
+    case QtWarningMsg:
+        return QStringLiteral("warning");
+    case QtCriticalMsg:
+        return QStringLiteral("critical");
+    case QtFatalMsg:
+        return QStringLiteral("fatal");
     }
     return QStringLiteral("unknown");
 }
@@ -29,7 +34,8 @@ HST_Recorder::HST_Recorder(const QString& path)
     if (!path.isEmpty()) {
         m_file.setFileName(path);
         if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
-            m_error = QStringLiteral("%1: cannot write the record: %2").arg(path, m_file.errorString());
+            m_error
+                = QStringLiteral("%1: cannot write the record: %2").arg(path, m_file.errorString());
     }
     m_previousRecorder = s_active.exchange(this);
     m_previousHandler = qInstallMessageHandler(&HST_Recorder::handleMessage);
@@ -86,12 +92,12 @@ void HST_Recorder::clear()
     m_events.clear();
 }
 
-void HST_Recorder::handleMessage(QtMsgType type, const QMessageLogContext& context,
-                                 const QString& text)
+void HST_Recorder::handleMessage(
+    QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (HST_Recorder* recorder = s_active.load())
         recorder->record(QStringLiteral("log"),
-                         {{QStringLiteral("level"), levelName(type)}, {QStringLiteral("text"), text}});
+            { { QStringLiteral("level"), levelName(type) }, { QStringLiteral("text"), text } });
     if (QtMessageHandler previous = s_previous.load())
         previous(type, context, text);
 }

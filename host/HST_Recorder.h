@@ -31,8 +31,8 @@ public:
     void clear();
 
 private:
-    static void handleMessage(QtMsgType type, const QMessageLogContext& context,
-                              const QString& text);
+    static void handleMessage(
+        QtMsgType type, const QMessageLogContext& context, const QString& text);
 
     mutable QMutex m_mutex;
     QList<QJsonObject> m_events;

@@ -21,27 +21,34 @@ struct Refusal
 
 [[noreturn]] void refuse(const QString& key, const QString& problem)
 {
-    throw Refusal{key, problem};
+    throw Refusal { key, problem };
 }
 
 QString typeName(const QJsonValue& value)
 {
     switch (value.type()) {
-    case QJsonValue::Null: return QStringLiteral("null");
-    case QJsonValue::Bool: return QStringLiteral("a boolean");
-    case QJsonValue::Double: return QStringLiteral("a number");
-    case QJsonValue::String: return QStringLiteral("a string");
-    case QJsonValue::Array: return QStringLiteral("a list");
-    case QJsonValue::Object: return QStringLiteral("an object");
-    case QJsonValue::Undefined: break;
+    case QJsonValue::Null:
+        return QStringLiteral("null");
+    case QJsonValue::Bool:
+        return QStringLiteral("a boolean");
+    case QJsonValue::Double:
+        return QStringLiteral("a number");
+    case QJsonValue::String:
+        return QStringLiteral("a string");
+    case QJsonValue::Array:
+        return QStringLiteral("a list");
+    case QJsonValue::Object:
+        return QStringLiteral("an object");
+    case QJsonValue::Undefined:
+        break;
     }
     return QStringLiteral("nothing");
 }
 
 [[noreturn]] void wrongType(const QString& key, const char* expected, const QJsonValue& value)
 {
-    refuse(key, QStringLiteral("expected %1, found %2")
-                    .arg(QLatin1String(expected), typeName(value)));
+    refuse(
+        key, QStringLiteral("expected %1, found %2").arg(QLatin1String(expected), typeName(value)));
 }
 
 void checkKeys(const QJsonObject& object, const QString& path, const QStringList& allowed)
@@ -49,7 +56,7 @@ void checkKeys(const QJsonObject& object, const QString& path, const QStringList
     for (auto it = object.begin(); it != object.end(); ++it) {
         if (!allowed.contains(it.key()))
             refuse(path.isEmpty() ? it.key() : path + QLatin1Char('.') + it.key(),
-                   QStringLiteral("unknown key"));
+                QStringLiteral("unknown key"));
     }
 }
 
@@ -59,8 +66,7 @@ QString join(const QString& path, const QString& key)
 }
 
 int readInt(const QJsonObject& object, const QString& path, const QString& key, int fallback,
-            int minimum = std::numeric_limits<int>::min(),
-            int maximum = std::numeric_limits<int>::max())
+    int minimum = std::numeric_limits<int>::min(), int maximum = std::numeric_limits<int>::max())
 {
     if (!object.contains(key))
         return fallback;
@@ -72,7 +78,8 @@ int readInt(const QJsonObject& object, const QString& path, const QString& key, 
         || number > double(std::numeric_limits<int>::max()))
         wrongType(name, "an integer", value);
     if (number < minimum || number > maximum)
-        refuse(name, QStringLiteral("%1 is outside %2 to %3").arg(number).arg(minimum).arg(maximum));
+        refuse(
+            name, QStringLiteral("%1 is outside %2 to %3").arg(number).arg(minimum).arg(maximum));
     return int(number);
 }
 
@@ -86,8 +93,8 @@ bool readBool(const QJsonObject& object, const QString& path, const QString& key
     return value.toBool();
 }
 
-QString readString(const QJsonObject& object, const QString& path, const QString& key,
-                   const QString& fallback)
+QString readString(
+    const QJsonObject& object, const QString& path, const QString& key, const QString& fallback)
 {
     if (!object.contains(key))
         return fallback;
@@ -130,7 +137,8 @@ QList<int> readIntList(const QJsonObject& object, const QString& path, const QSt
 
 void checkAddress(const QString& key, const QString& ip)
 {
-    static const QRegularExpression dotted(QStringLiteral("^(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})$"));
+    static const QRegularExpression dotted(
+        QStringLiteral("^(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})$"));
     const QRegularExpressionMatch match = dotted.match(ip);
     bool ok = match.hasMatch();
     for (int i = 1; ok && i <= 4; ++i)
@@ -146,14 +154,14 @@ HST_Outcome readOutcome(const QJsonObject& parent, const QString& path, const QS
         return outcome;
     const QString name = join(path, key);
     const QJsonObject object = readObject(parent, path, key);
-    checkKeys(object, name, {"result", "message", "delayMs"});
+    checkKeys(object, name, { "result", "message", "delayMs" });
     const QString result = readString(object, name, QStringLiteral("result"), QStringLiteral("ok"));
     if (result != QLatin1String("ok") && result != QLatin1String("error"))
         refuse(join(name, QStringLiteral("result")),
-               QStringLiteral("\"%1\" is neither \"ok\" nor \"error\"").arg(result));
+            QStringLiteral("\"%1\" is neither \"ok\" nor \"error\"").arg(result));
     outcome.ok = result == QLatin1String("ok");
     outcome.message = readString(object, name, QStringLiteral("message"),
-                                 QStringLiteral("The simulated device refused the request."));
+        QStringLiteral("The simulated device refused the request."));
     outcome.delayMs = readInt(object, name, QStringLiteral("delayMs"), 0, 0, 600000);
     return outcome;
 }
@@ -164,23 +172,23 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
         wrongType(name, "an object", value);
     const QJsonObject object = value.toObject();
     checkKeys(object, name,
-              {"name", "ip", "type", "model", "triggerMode", "lowLightMode", "dualSlopeShutter",
-               "automaticExposureControl", "exposureTimingFlag", "exposureTimingClass",
-               "documents", "dummy", "needsErase", "recorded", "syncRequired"});
+        { "name", "ip", "type", "model", "triggerMode", "lowLightMode", "dualSlopeShutter",
+            "automaticExposureControl", "exposureTimingFlag", "exposureTimingClass", "documents",
+            "dummy", "needsErase", "recorded", "syncRequired" });
     HST_CameraSpec camera;
-    camera.name = readString(object, name, QStringLiteral("name"),
-                             QStringLiteral("Camera %1").arg(index + 1));
-    camera.ip = readString(object, name, QStringLiteral("ip"),
-                           QStringLiteral("192.168.0.%1").arg(10 + index));
+    camera.name = readString(
+        object, name, QStringLiteral("name"), QStringLiteral("Camera %1").arg(index + 1));
+    camera.ip = readString(
+        object, name, QStringLiteral("ip"), QStringLiteral("192.168.0.%1").arg(10 + index));
     checkAddress(join(name, QStringLiteral("ip")), camera.ip);
     camera.type = readInt(object, name, QStringLiteral("type"), camera.type);
     camera.model = readString(object, name, QStringLiteral("model"),
-                              QStringLiteral("HX-%1 type A model 1").arg(camera.type));
+        QStringLiteral("HX-%1 type A model 1").arg(camera.type));
     camera.triggerMode = readInt(object, name, QStringLiteral("triggerMode"), camera.triggerMode);
     camera.lowLightMode = readInt(object, name, QStringLiteral("lowLightMode"), 0);
     camera.dualSlopeShutter = readInt(object, name, QStringLiteral("dualSlopeShutter"), 0);
-    camera.automaticExposureControl =
-        readInt(object, name, QStringLiteral("automaticExposureControl"), 0);
+    camera.automaticExposureControl
+        = readInt(object, name, QStringLiteral("automaticExposureControl"), 0);
     camera.exposureTimingFlag = readInt(object, name, QStringLiteral("exposureTimingFlag"), 0);
     camera.exposureTimingClass = readInt(object, name, QStringLiteral("exposureTimingClass"), 0);
     camera.documents = readInt(object, name, QStringLiteral("documents"), 1, 0, 64);
@@ -197,22 +205,22 @@ HST_HubSpec readHub(const QJsonValue& value, const QString& name, int index)
         wrongType(name, "an object", value);
     const QJsonObject object = value.toObject();
     checkKeys(object, name,
-              {"ip", "firmware", "syncMode", "frequency", "frequencies", "state", "changeAddress"});
+        { "ip", "firmware", "syncMode", "frequency", "frequencies", "state", "changeAddress" });
     HST_HubSpec hub;
-    hub.ip = readString(object, name, QStringLiteral("ip"),
-                        QStringLiteral("192.168.0.%1").arg(200 + index));
+    hub.ip = readString(
+        object, name, QStringLiteral("ip"), QStringLiteral("192.168.0.%1").arg(200 + index));
     checkAddress(join(name, QStringLiteral("ip")), hub.ip);
     hub.firmware = readString(object, name, QStringLiteral("firmware"), hub.firmware);
     hub.syncMode = readInt(object, name, QStringLiteral("syncMode"), hub.syncMode);
     hub.frequency = readInt(object, name, QStringLiteral("frequency"), hub.frequency, 0);
     hub.frequencies = object.contains(QLatin1String("frequencies"))
-                          ? readIntList(object, name, QStringLiteral("frequencies"))
-                          : QList<int>{100, 500, 1000, 2000, 5000, 10000};
-    const QString state = readString(object, name, QStringLiteral("state"),
-                                     QStringLiteral("connected"));
+        ? readIntList(object, name, QStringLiteral("frequencies"))
+        : QList<int> { 100, 500, 1000, 2000, 5000, 10000 };
+    const QString state
+        = readString(object, name, QStringLiteral("state"), QStringLiteral("connected"));
     if (state != QLatin1String("connected") && state != QLatin1String("disconnected"))
         refuse(join(name, QStringLiteral("state")),
-               QStringLiteral("\"%1\" is neither \"connected\" nor \"disconnected\"").arg(state));
+            QStringLiteral("\"%1\" is neither \"connected\" nor \"disconnected\"").arg(state));
     hub.connected = state == QLatin1String("connected");
     hub.changeAddress = readOutcome(object, name, QStringLiteral("changeAddress"));
     return hub;
@@ -221,23 +229,26 @@ HST_HubSpec readHub(const QJsonValue& value, const QString& name, int index)
 QVariant prefValue(const QJsonValue& value, const QString& name)
 {
     switch (value.type()) {
-    case QJsonValue::Bool: return value.toBool();
-    case QJsonValue::String: return value.toString();
+    case QJsonValue::Bool:
+        return value.toBool();
+    case QJsonValue::String:
+        return value.toString();
     case QJsonValue::Double: {
         const double number = value.toDouble();
         if (std::floor(number) == number && std::abs(number) < 2147483648.0)
             return int(number);
         return number;
     }
-    default: wrongType(name, "a boolean, number or string", value);
+    default:
+        wrongType(name, "a boolean, number or string", value);
     }
 }
 
 void readScenario(const QJsonObject& root, HST_Scenario& out)
 {
     checkKeys(root, QString(),
-              {"mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync",
-               "visa", "generator", "faults"});
+        { "mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync", "visa",
+            "generator", "faults" });
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
@@ -249,7 +260,7 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
             const HST_CameraSpec camera = readCamera(cameras.at(i), name, i);
             if (seen.contains(camera.ip))
                 refuse(name + QStringLiteral(".ip"),
-                       QStringLiteral("duplicate camera address %1").arg(camera.ip));
+                    QStringLiteral("duplicate camera address %1").arg(camera.ip));
             seen.insert(camera.ip);
             out.cameras.append(camera);
         }
@@ -263,7 +274,7 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
             const HST_HubSpec hub = readHub(hubs.at(i), name, i);
             if (seen.contains(hub.ip))
                 refuse(name + QStringLiteral(".ip"),
-                       QStringLiteral("duplicate hub address %1").arg(hub.ip));
+                    QStringLiteral("duplicate hub address %1").arg(hub.ip));
             seen.insert(hub.ip);
             out.hubs.append(hub);
         }
@@ -280,9 +291,10 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     if (root.contains(QLatin1String("faults"))) {
         const QJsonObject faults = readObject(root, QString(), QStringLiteral("faults"));
         checkKeys(faults, QStringLiteral("faults"),
-                  {"syncCapableTypes", "isSyncRequired", "setActive", "connectAll"});
+            { "syncCapableTypes", "isSyncRequired", "setActive", "connectAll" });
         for (auto it = faults.begin(); it != faults.end(); ++it)
-            out.faults.insert(it.key(), readString(faults, QStringLiteral("faults"), it.key(), QString()));
+            out.faults.insert(
+                it.key(), readString(faults, QStringLiteral("faults"), it.key(), QString()));
     }
 }
 
@@ -298,8 +310,8 @@ bool HST_Scenario::fromFile(const QString& path, HST_Scenario& out, QString& err
     return fromJson(file.readAll(), path, out, error);
 }
 
-bool HST_Scenario::fromJson(const QByteArray& json, const QString& source, HST_Scenario& out,
-                            QString& error)
+bool HST_Scenario::fromJson(
+    const QByteArray& json, const QString& source, HST_Scenario& out, QString& error)
 {
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);

@@ -51,7 +51,7 @@ class HST_Scenario
 {
 public:
     int mode = 0;
-    QList<int> syncCapableTypes{1};
+    QList<int> syncCapableTypes { 1 };
     QList<HST_CameraSpec> cameras;
     int files = 0;
     QList<HST_HubSpec> hubs;
@@ -66,6 +66,6 @@ public:
 
     // Both refuse a bad scenario with a message naming the source, the key and the problem.
     static bool fromFile(const QString& path, HST_Scenario& out, QString& error);
-    static bool fromJson(const QByteArray& json, const QString& source, HST_Scenario& out,
-                         QString& error);
+    static bool fromJson(
+        const QByteArray& json, const QString& source, HST_Scenario& out, QString& error);
 };

@@ -31,8 +31,7 @@ bool isBusyDialog(QWidget* widget)
 }
 
 // Posted, so that a modal dialog opened by the action doesn't block the caller.
-template <typename Action>
-void post(QObject* target, Action action)
+template <typename Action> void post(QObject* target, Action action)
 {
     QMetaObject::invokeMethod(target, action, Qt::QueuedConnection);
 }
@@ -40,14 +39,15 @@ void post(QObject* target, Action action)
 } // namespace
 
 HST_ScriptRunner::HST_ScriptRunner(HST_Recorder* recorder, QObject* parent)
-    : QObject(parent), m_recorder(recorder)
+    : QObject(parent)
+    , m_recorder(recorder)
 {
     m_timer.setInterval(pollIntervalMs);
     connect(&m_timer, &QTimer::timeout, this, &HST_ScriptRunner::poll);
 }
 
-bool HST_ScriptRunner::parse(const QByteArray& json, const QString& source, QJsonArray& steps,
-                             QString& error)
+bool HST_ScriptRunner::parse(
+    const QByteArray& json, const QString& source, QJsonArray& steps, QString& error)
 {
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
@@ -79,7 +79,7 @@ bool HST_ScriptRunner::parse(const QByteArray& json, const QString& source, QJso
             ok = value.isDouble() && value.toDouble() >= 0;
         else if (kind == QLatin1String("set"))
             ok = value.isArray() && value.toArray().size() == 2 && value.toArray().at(0).isString()
-                 && !value.toArray().at(1).isArray() && !value.toArray().at(1).isObject();
+                && !value.toArray().at(1).isArray() && !value.toArray().at(1).isObject();
         else {
             error = where + QStringLiteral(": unknown step \"%1\"").arg(kind);
             return false;
@@ -97,7 +97,7 @@ QJsonArray HST_ScriptRunner::answerSteps(const QStringList& answers)
 {
     QJsonArray steps;
     for (const QString& answer : answers)
-        steps.append(QJsonObject{{QStringLiteral("click"), answer}});
+        steps.append(QJsonObject { { QStringLiteral("click"), answer } });
     return steps;
 }
 
@@ -166,8 +166,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::click(const QString& target, QWidget*
 {
     const QList<QAbstractButton*> buttons = window->findChildren<QAbstractButton*>();
     for (QAbstractButton* button : buttons) {
-        const bool matches = button->objectName() == target
-                             || button->text().remove(QLatin1Char('&')) == target;
+        const bool matches
+            = button->objectName() == target || button->text().remove(QLatin1Char('&')) == target;
         if (matches && button->isVisible() && button->isEnabled()) {
             QPointer<QAbstractButton> guarded(button);
             post(this, [guarded] {
@@ -180,8 +180,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::click(const QString& target, QWidget*
     return Result::Waiting;
 }
 
-HST_ScriptRunner::Result HST_ScriptRunner::set(const QString& name, const QJsonValue& value,
-                                               QWidget* window)
+HST_ScriptRunner::Result HST_ScriptRunner::set(
+    const QString& name, const QJsonValue& value, QWidget* window)
 {
     QWidget* widget = window->findChild<QWidget*>(name);
     if (!widget || !widget->isEnabled())
@@ -255,8 +255,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::runScript(const QString& code, QWidge
             return;
         const QVariant result = guarded->page()->mainFrame()->evaluateJavaScript(code);
         recorder->record(QStringLiteral("js"),
-                         {{QStringLiteral("code"), code},
-                          {QStringLiteral("result"), QJsonValue::fromVariant(result)}});
+            { { QStringLiteral("code"), code },
+                { QStringLiteral("result"), QJsonValue::fromVariant(result) } });
     });
     return Result::Done;
 }
@@ -272,15 +272,15 @@ HST_ScriptRunner::Result HST_ScriptRunner::screenshot(const QString& path, QWidg
         fail(QStringLiteral("cannot write the screenshot %1").arg(path));
         return Result::Waiting;
     }
-    m_recorder->record(QStringLiteral("screenshot"), {{QStringLiteral("file"), path}});
+    m_recorder->record(QStringLiteral("screenshot"), { { QStringLiteral("file"), path } });
     return Result::Done;
 }
 
 void HST_ScriptRunner::nextStep()
 {
     m_recorder->record(QStringLiteral("step"),
-                       {{QStringLiteral("index"), m_index + 1},
-                        {QStringLiteral("step"), m_steps.at(m_index)}});
+        { { QStringLiteral("index"), m_index + 1 },
+            { QStringLiteral("step"), m_steps.at(m_index) } });
     ++m_index;
     m_stepClock.restart();
     if (m_index < m_steps.size())
@@ -298,7 +298,7 @@ void HST_ScriptRunner::fail(const QString& problem)
                     .arg(m_index + 1)
                     .arg(stepText(m_steps.at(m_index)), problem);
     m_recorder->record(QStringLiteral("scriptError"),
-                       {{QStringLiteral("index"), m_index + 1}, {QStringLiteral("text"), m_failure}});
+        { { QStringLiteral("index"), m_index + 1 }, { QStringLiteral("text"), m_failure } });
     qCritical("%s", qPrintable(m_failure));
     m_finished = true;
     emit finished(false);

@@ -28,8 +28,8 @@ public:
     explicit HST_ScriptRunner(HST_Recorder* recorder, QObject* parent = nullptr);
 
     // Checks the form of every step; the error names the source, the step and the problem.
-    static bool parse(const QByteArray& json, const QString& source, QJsonArray& steps,
-                      QString& error);
+    static bool parse(
+        const QByteArray& json, const QString& source, QJsonArray& steps, QString& error);
     static QJsonArray answerSteps(const QStringList& answers);
 
     void setSteps(const QJsonArray& steps) { m_steps = steps; }

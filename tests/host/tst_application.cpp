@@ -66,9 +66,12 @@ void tst_Application::loaderErrors_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("missing file") << "/nonexistent/libsynccontrol.so" << 2 << "Plug-in file not found";
-    QTest::newRow("not a library") << scenarioFile("four-cameras.json") << 2 << "Cannot load the plug-in file";
-    QTest::newRow("library without entry") << QStringLiteral(HST_NOENTRY_FILE) << 2 << "has no entry makeButtonPlugin";
+    QTest::newRow("missing file") << "/nonexistent/libsynccontrol.so" << 2
+                                  << "Plug-in file not found";
+    QTest::newRow("not a library")
+        << scenarioFile("four-cameras.json") << 2 << "Cannot load the plug-in file";
+    QTest::newRow("library without entry")
+        << QStringLiteral(HST_NOENTRY_FILE) << 2 << "has no entry makeButtonPlugin";
     QTest::newRow("the real plug-in") << QStringLiteral(SYNC_PLUGIN_FILE) << 0 << QString();
 }
 
@@ -136,8 +139,9 @@ void tst_Application::enableRuleFollowsState()
         host->removeDocument(host->documentKeys(0).first());
     QTRY_VERIFY(application.recorder()->events(QStringLiteral("isEnabled")).size() > asked);
     QCOMPARE(button->isEnabled(), after);
-    QCOMPARE(application.recorder()->events(QStringLiteral("isEnabled")).last().value("result").toBool(),
-             after);
+    QCOMPARE(
+        application.recorder()->events(QStringLiteral("isEnabled")).last().value("result").toBool(),
+        after);
 }
 
 void tst_Application::pluginExceptionArrivesAsAppException()
@@ -146,13 +150,14 @@ void tst_Application::pluginExceptionArrivesAsAppException()
     // which needs one type identity on both sides of the library boundary.
     HST_Options options = this->options("{\"cameras\": [{\"documents\": 2}]}");
     options.press = pluginName;
-    options.answers = QStringList{QStringLiteral("OK")};
+    options.answers = QStringList { QStringLiteral("OK") };
     HST_Application application(options);
     QCOMPARE(application.run(), 0);
-    const QList<QJsonObject> reports = application.recorder()->events(QStringLiteral("reportException"));
+    const QList<QJsonObject> reports
+        = application.recorder()->events(QStringLiteral("reportException"));
     QCOMPARE(reports.size(), 1);
     QCOMPARE(reports.first().value("text").toString(),
-             QStringLiteral("Because there is only one camera, synchronization is not necessary."));
+        QStringLiteral("Because there is only one camera, synchronization is not necessary."));
     QCOMPARE(reports.first().value("type").toString(), QStringLiteral("APP_Exception"));
     QCOMPARE(reports.first().value("errorCode").toInt(), 0);
     QCOMPARE(application.recorder()->events(QStringLiteral("step")).size(), 1);
@@ -166,7 +171,7 @@ void tst_Application::hostExceptionCrossesThePlugin()
     HST_Options options = this->options(
         "{\"cameras\": [{}, {}], \"faults\": {\"syncCapableTypes\": \"Type list unavailable.\"}}");
     options.press = pluginName;
-    options.answers = QStringList{QStringLiteral("OK")};
+    options.answers = QStringList { QStringLiteral("OK") };
     HST_Application application(options);
     QCOMPARE(application.run(), 0);
     HST_Recorder* recorder = application.recorder();
@@ -180,7 +185,8 @@ void tst_Application::hostExceptionCrossesThePlugin()
     bool left = false;
     for (const QJsonObject& line : recorder->events(QStringLiteral("log"))) {
         const QString text = line.value("text").toString();
-        left |= text.startsWith(QLatin1String("[LEAVE]")) && text.contains(QLatin1String("GUI_SyncControl::init"));
+        left |= text.startsWith(QLatin1String("[LEAVE]"))
+            && text.contains(QLatin1String("GUI_SyncControl::init"));
     }
     QVERIFY(left);
 }
@@ -201,7 +207,8 @@ void tst_Application::failedStepEndsRunWithCode3()
     QFETCH(QString, scriptError);
     HST_Options options = this->options("{\"cameras\": [{}, {}]}");
     options.press = press;
-    options.steps = QJsonArray{QJsonObject{{QStringLiteral("click"), QStringLiteral("Nope")}}};
+    options.steps
+        = QJsonArray { QJsonObject { { QStringLiteral("click"), QStringLiteral("Nope") } } };
     options.stepTimeoutMs = 500;
     HST_Application application(options);
     QCOMPARE(application.run(), 3);
@@ -241,15 +248,15 @@ void tst_Application::commandLine_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("stderrHas");
 
-    QTest::newRow("bad scenario names file and key")
-        << QStringList{"--scenario", SYNC_SOURCE_DIR "/tests/host/fixtures/duplicate-address.json"}
-        << 1 << "duplicate-address.json: \"cameras[1].ip\": duplicate camera address";
+    QTest::newRow("bad scenario names file and key") << QStringList {
+        "--scenario", SYNC_SOURCE_DIR "/tests/host/fixtures/duplicate-address.json"
+    } << 1 << "duplicate-address.json: \"cameras[1].ip\": duplicate camera address";
     // Qt's application object has a "-plugin" option of its own that must not swallow ours.
-    QTest::newRow("missing plug-in file") << QStringList{"--plugin", "/nonexistent/p.so"} << 2
+    QTest::newRow("missing plug-in file") << QStringList { "--plugin", "/nonexistent/p.so" } << 2
                                           << "Plug-in file not found: /nonexistent/p.so";
-    QTest::newRow("unknown option") << QStringList{"--colour"} << 1 << "colour";
-    QTest::newRow("refusal answered") << QStringList{"--scenario", scenarioFile("one-camera-two-documents.json"),
-                                                     "--press", "synccontrol", "--answer", "OK"}
+    QTest::newRow("unknown option") << QStringList { "--colour" } << 1 << "colour";
+    QTest::newRow("refusal answered") << QStringList { "--scenario",
+        scenarioFile("one-camera-two-documents.json"), "--press", "synccontrol", "--answer", "OK" }
                                       << 0 << QString();
 }
 
@@ -270,7 +277,8 @@ void tst_Application::commandLine()
     QVERIFY2(errors.contains(stderrHas), qPrintable(errors));
     // The preferences' path is told as soon as the host exists.
     if (code != 1)
-        QVERIFY(QString::fromLocal8Bit(process.readAllStandardOutput()).contains(QLatin1String("p.ini")));
+        QVERIFY(QString::fromLocal8Bit(process.readAllStandardOutput())
+                    .contains(QLatin1String("p.ini")));
     if (code != 0)
         return;
     QFile file(record);
@@ -280,7 +288,7 @@ void tst_Application::commandLine()
     for (const QByteArray& line : lines) {
         const QJsonObject event = QJsonDocument::fromJson(line).object();
         reported |= event.value("call") == QLatin1String("reportException")
-                    && event.value("text").toString().startsWith(QLatin1String("Because"));
+            && event.value("text").toString().startsWith(QLatin1String("Because"));
     }
     QVERIFY(reported);
 }

@@ -24,10 +24,10 @@ HST_Scenario scenarioOf(const QByteArray& json)
     return scenario;
 }
 
-const QByteArray threeCameras =
-    "{\"cameras\": [{\"ip\": \"192.168.0.3\", \"documents\": 2}, "
-    "{\"ip\": \"192.168.0.1\", \"needsErase\": true, \"recorded\": true, \"syncRequired\": true}, "
-    "{\"ip\": \"192.168.0.2\", \"recorded\": true}], \"files\": 1";
+const QByteArray threeCameras = "{\"cameras\": [{\"ip\": \"192.168.0.3\", \"documents\": 2}, "
+                                "{\"ip\": \"192.168.0.1\", \"needsErase\": true, \"recorded\": "
+                                "true, \"syncRequired\": true}, "
+                                "{\"ip\": \"192.168.0.2\", \"recorded\": true}], \"files\": 1";
 
 } // namespace
 
@@ -73,8 +73,8 @@ void tst_Host::cleanup()
 
 std::unique_ptr<HST_Host> tst_Host::makeHost(const QByteArray& json)
 {
-    return std::unique_ptr<HST_Host>(new HST_Host(scenarioOf(json), m_recorder.get(),
-                                                  m_dir->filePath(QStringLiteral("p.ini"))));
+    return std::unique_ptr<HST_Host>(
+        new HST_Host(scenarioOf(json), m_recorder.get(), m_dir->filePath(QStringLiteral("p.ini"))));
 }
 
 void tst_Host::documentsOfOneCameraShareIt()
@@ -108,13 +108,14 @@ void tst_Host::applySync_data()
     QTest::addColumn<QString>("thrown");
 
     QTest::newRow("chain with master succeeds") << QByteArray() << false << 1 << "ok" << QString();
-    QTest::newRow("external without master succeeds") << QByteArray() << true << -1 << "ok" << QString();
-    QTest::newRow("chain without master is refused")
-        << QByteArray() << false << -1 << "refused" << "A chain connection needs a master camera.";
-    QTest::newRow("scenario failure is thrown")
-        << QByteArray(", \"applySync\": {\"result\": \"error\", \"message\": \"Camera lost.\", "
-                      "\"delayMs\": 50}")
-        << true << 0 << "error" << "Camera lost.";
+    QTest::newRow("external without master succeeds")
+        << QByteArray() << true << -1 << "ok" << QString();
+    QTest::newRow("chain without master is refused") << QByteArray() << false << -1 << "refused"
+                                                     << "A chain connection needs a master camera.";
+    QTest::newRow("scenario failure is thrown") << QByteArray(
+        ", \"applySync\": {\"result\": \"error\", \"message\": \"Camera lost.\", "
+        "\"delayMs\": 50}") << true << 0 << "error"
+                                                << "Camera lost.";
 }
 
 void tst_Host::applySync()
@@ -152,7 +153,7 @@ void tst_Host::applySync()
     const QJsonObject call = calls.first();
     QCOMPARE(call.value("result").toString(), result);
     QCOMPARE(call.value("cameras").toArray(),
-             QJsonArray({"192.168.0.2", "192.168.0.1", "192.168.0.3"}));
+        QJsonArray({ "192.168.0.2", "192.168.0.1", "192.168.0.3" }));
     if (master < 0)
         QVERIFY(call.value("master").isNull());
     else
@@ -194,7 +195,7 @@ void tst_Host::busyDialogRethrowsWhatTheTaskThrew()
     QTimer::singleShot(50, [&] {
         auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
         sawDialog = dialog && dialog->labelText() == QLatin1String("Reflecting")
-                    && dialog->findChildren<QPushButton*>().isEmpty();
+            && dialog->findChildren<QPushButton*>().isEmpty();
         release.release();
     });
     QString caught;
@@ -214,7 +215,8 @@ void tst_Host::preferenceReads_data()
     QTest::addColumn<QVariant>("defaultValue");
     QTest::addColumn<QVariant>("expected");
 
-    QTest::newRow("host default for invalid default") << "env/style" << QVariant() << QVariant("light");
+    QTest::newRow("host default for invalid default")
+        << "env/style" << QVariant() << QVariant("light");
     QTest::newRow("host default bool") << "sync/external" << QVariant() << QVariant(false);
     QTest::newRow("caller default wins") << "env/style" << QVariant("dark") << QVariant("dark");
     QTest::newRow("unknown key without default") << "x/y" << QVariant() << QVariant();
@@ -249,10 +251,17 @@ void tst_Host::changeAddress_data()
     QTest::addColumn<QString>("to");
     QTest::addColumn<QString>("thrown");
 
-    QTest::newRow("hub takes the address") << "10.0.0.1" << "10.0.0.9" << QString();
-    QTest::newRow("scenario refusal") << "10.0.0.2" << "10.0.0.9" << "Refused.";
-    QTest::newRow("address in use") << "10.0.0.1" << "10.0.0.2" << "The address 10.0.0.2 is already in use.";
-    QTest::newRow("hub not connected") << "10.0.0.3" << "10.0.0.9" << "No hub answers at 10.0.0.3.";
+    QTest::newRow("hub takes the address") << "10.0.0.1"
+                                           << "10.0.0.9" << QString();
+    QTest::newRow("scenario refusal") << "10.0.0.2"
+                                      << "10.0.0.9"
+                                      << "Refused.";
+    QTest::newRow("address in use") << "10.0.0.1"
+                                    << "10.0.0.2"
+                                    << "The address 10.0.0.2 is already in use.";
+    QTest::newRow("hub not connected") << "10.0.0.3"
+                                       << "10.0.0.9"
+                                       << "No hub answers at 10.0.0.3.";
 }
 
 void tst_Host::changeAddress()
@@ -286,11 +295,14 @@ void tst_Host::translate_data()
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("no file: identity") << QString() << "Cancel" << "Cancel";
+    QTest::newRow("no file: identity") << QString() << "Cancel"
+                                       << "Cancel";
     QTest::newRow("translated") << HST_TEST_QM_FILE << "Synchronization is complete."
                                 << "Synchronisation abgeschlossen.";
-    QTest::newRow("missing from file: source") << HST_TEST_QM_FILE << "Syncing" << "Syncing";
-    QTest::newRow("unreadable file") << "/nonexistent/x.qm" << "Cancel" << QString();
+    QTest::newRow("missing from file: source") << HST_TEST_QM_FILE << "Syncing"
+                                               << "Syncing";
+    QTest::newRow("unreadable file") << "/nonexistent/x.qm"
+                                     << "Cancel" << QString();
 }
 
 void tst_Host::translate()
@@ -316,10 +328,14 @@ void tst_Host::messageBoxesAreAnsweredAndRecorded_data()
     QTest::addColumn<QString>("click");
     QTest::addColumn<bool>("confirmed");
 
-    QTest::newRow("confirm OK goes on") << "confirm" << "OK" << true;
-    QTest::newRow("confirm Cancel stops") << "confirm" << "Cancel" << false;
-    QTest::newRow("warning") << "warning" << "OK" << false;
-    QTest::newRow("error list") << "errorList" << "OK" << false;
+    QTest::newRow("confirm OK goes on") << "confirm"
+                                        << "OK" << true;
+    QTest::newRow("confirm Cancel stops") << "confirm"
+                                          << "Cancel" << false;
+    QTest::newRow("warning") << "warning"
+                             << "OK" << false;
+    QTest::newRow("error list") << "errorList"
+                                << "OK" << false;
 }
 
 void tst_Host::messageBoxesAreAnsweredAndRecorded()
@@ -329,7 +345,7 @@ void tst_Host::messageBoxesAreAnsweredAndRecorded()
     QFETCH(bool, confirmed);
     auto host = makeHost("{}");
     HST_ScriptRunner runner(m_recorder.get());
-    runner.setSteps(HST_ScriptRunner::answerSteps({click}));
+    runner.setSteps(HST_ScriptRunner::answerSteps({ click }));
     runner.setStepTimeout(2000);
     runner.start();
     const QString text = QStringLiteral("Go on?");
@@ -339,7 +355,7 @@ void tst_Host::messageBoxesAreAnsweredAndRecorded()
     else if (kind == QLatin1String("warning"))
         host->showWarning(text, nullptr);
     else
-        host->showErrorList(text, {QStringLiteral("a"), QStringLiteral("b")});
+        host->showErrorList(text, { QStringLiteral("a"), QStringLiteral("b") });
     QVERIFY2(!runner.hasFailed(), qPrintable(runner.failure()));
     QCOMPARE(result, confirmed);
     const QList<QJsonObject> messages = m_recorder->events(QStringLiteral("message"));

@@ -23,52 +23,62 @@ void tst_Scenario::refusesBrokenScenario_data()
     QTest::addColumn<QString>("problem");
 
     QTest::newRow("not JSON") << QByteArray("{\"mode\": 1,") << QString() << "not JSON";
-    QTest::newRow("top level is a list") << QByteArray("[]") << "(top level)" << "expected an object";
-    QTest::newRow("unknown top-level key")
-        << QByteArray("{\"camera\": []}") << "\"camera\"" << "unknown key";
+    QTest::newRow("top level is a list") << QByteArray("[]") << "(top level)"
+                                         << "expected an object";
+    QTest::newRow("unknown top-level key") << QByteArray("{\"camera\": []}") << "\"camera\""
+                                           << "unknown key";
     QTest::newRow("unknown camera key")
         << QByteArray("{\"cameras\": [{\"ip\": \"10.0.0.1\", \"colour\": 1}]}")
-        << "\"cameras[0].colour\"" << "unknown key";
+        << "\"cameras[0].colour\""
+        << "unknown key";
     QTest::newRow("mode as text") << QByteArray("{\"mode\": \"live\"}") << "\"mode\""
                                   << "expected an integer, found a string";
-    QTest::newRow("mode out of range") << QByteArray("{\"mode\": 3}") << "\"mode\"" << "outside 0 to 2";
+    QTest::newRow("mode out of range") << QByteArray("{\"mode\": 3}") << "\"mode\""
+                                       << "outside 0 to 2";
     QTest::newRow("fractional trigger mode")
         << QByteArray("{\"cameras\": [{\"triggerMode\": 1.5}]}") << "\"cameras[0].triggerMode\""
         << "expected an integer";
-    QTest::newRow("flag as number") << QByteArray("{\"cameras\": [{\"dummy\": 1}]}")
-                                    << "\"cameras[0].dummy\"" << "expected a boolean";
+    QTest::newRow("flag as number")
+        << QByteArray("{\"cameras\": [{\"dummy\": 1}]}") << "\"cameras[0].dummy\""
+        << "expected a boolean";
     QTest::newRow("type list holds text")
         << QByteArray("{\"syncCapableTypes\": [1, \"2\"]}") << "\"syncCapableTypes[1]\""
         << "expected an integer";
     QTest::newRow("cameras not a list") << QByteArray("{\"cameras\": {}}") << "\"cameras\""
                                         << "expected a list, found an object";
-    QTest::newRow("duplicate camera address")
-        << QByteArray("{\"cameras\": [{\"ip\": \"10.0.0.1\"}, {\"ip\": \"10.0.0.2\"}, "
-                      "{\"ip\": \"10.0.0.1\"}]}")
-        << "\"cameras[2].ip\"" << "duplicate camera address 10.0.0.1";
+    QTest::newRow("duplicate camera address") << QByteArray(
+        "{\"cameras\": [{\"ip\": \"10.0.0.1\"}, {\"ip\": \"10.0.0.2\"}, "
+        "{\"ip\": \"10.0.0.1\"}]}") << "\"cameras[2].ip\""
+                                              << "duplicate camera address 10.0.0.1";
     // The second camera's default address collides with the first one's explicit address.
     QTest::newRow("default address collides")
         << QByteArray("{\"cameras\": [{\"ip\": \"192.168.0.11\"}, {}]}") << "\"cameras[1].ip\""
         << "duplicate camera address";
-    QTest::newRow("address not dotted") << QByteArray("{\"cameras\": [{\"ip\": \"10.0.0.256\"}]}")
-                                        << "\"cameras[0].ip\"" << "not a dotted IPv4 address";
+    QTest::newRow("address not dotted")
+        << QByteArray("{\"cameras\": [{\"ip\": \"10.0.0.256\"}]}") << "\"cameras[0].ip\""
+        << "not a dotted IPv4 address";
     QTest::newRow("sync result unknown")
         << QByteArray("{\"applySync\": {\"result\": \"fail\"}}") << "\"applySync.result\""
         << "neither \"ok\" nor \"error\"";
-    QTest::newRow("negative delay") << QByteArray("{\"applySync\": {\"delayMs\": -1}}")
-                                    << "\"applySync.delayMs\"" << "outside";
+    QTest::newRow("negative delay")
+        << QByteArray("{\"applySync\": {\"delayMs\": -1}}") << "\"applySync.delayMs\""
+        << "outside";
     QTest::newRow("hub state unknown")
-        << QByteArray("{\"hubs\": [{\"state\": \"off\"}]}") << "\"hubs[0].state\"" << "neither";
+        << QByteArray("{\"hubs\": [{\"state\": \"off\"}]}") << "\"hubs[0].state\""
+        << "neither";
     QTest::newRow("hub address change key unknown")
         << QByteArray("{\"hubs\": [{\"changeAddress\": {\"result\": \"ok\", \"delay\": 5}}]}")
-        << "\"hubs[0].changeAddress.delay\"" << "unknown key";
+        << "\"hubs[0].changeAddress.delay\""
+        << "unknown key";
     QTest::newRow("preference value is a list")
         << QByteArray("{\"prefs\": {\"sync/nrack\": [1]}}") << "\"prefs.sync/nrack\""
         << "expected a boolean, number or string";
     QTest::newRow("fault of an operation the host can't fail")
-        << QByteArray("{\"faults\": {\"translate\": \"x\"}}") << "\"faults.translate\"" << "unknown key";
-    QTest::newRow("generator not an object") << QByteArray("{\"generator\": true}")
-                                             << "\"generator\"" << "expected an object";
+        << QByteArray("{\"faults\": {\"translate\": \"x\"}}") << "\"faults.translate\""
+        << "unknown key";
+    QTest::newRow("generator not an object")
+        << QByteArray("{\"generator\": true}") << "\"generator\""
+        << "expected an object";
 }
 
 void tst_Scenario::refusesBrokenScenario()
@@ -95,10 +105,10 @@ void tst_Scenario::defaultsFillOmittedKeys()
     QVERIFY2(HST_Scenario::fromJson("{\"cameras\": [{}, {\"name\": \"B\", \"documents\": 2}], "
                                     "\"hubs\": [{}], \"prefs\": {\"a\": 1, \"b\": 1.5, "
                                     "\"c\": true, \"d\": \"x\"}}",
-                                    QStringLiteral("s"), scenario, error),
-             qPrintable(error));
+                 QStringLiteral("s"), scenario, error),
+        qPrintable(error));
     QCOMPARE(scenario.mode, 0);
-    QCOMPARE(scenario.syncCapableTypes, QList<int>{1});
+    QCOMPARE(scenario.syncCapableTypes, QList<int> { 1 });
     QCOMPARE(scenario.cameras.size(), 2);
     QCOMPARE(scenario.cameras.at(0).name, QStringLiteral("Camera 1"));
     QCOMPARE(scenario.cameras.at(0).ip, QStringLiteral("192.168.0.10"));
@@ -120,7 +130,7 @@ void tst_Scenario::shippedScenariosLoad_data()
 {
     QTest::addColumn<QString>("path");
     const QDir dir(QStringLiteral(SYNC_SOURCE_DIR "/host/scenarios"));
-    const QStringList files = dir.entryList({QStringLiteral("*.json")}, QDir::Files);
+    const QStringList files = dir.entryList({ QStringLiteral("*.json") }, QDir::Files);
     QVERIFY(files.contains(QStringLiteral("four-cameras.json")));
     for (const QString& file : files)
         QTest::newRow(qPrintable(file)) << dir.filePath(file);

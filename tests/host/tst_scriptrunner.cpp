@@ -36,23 +36,23 @@ struct Form
     {
         edit->setObjectName(QStringLiteral("name_edit"));
         combo->setObjectName(QStringLiteral("kind_combo"));
-        combo->addItems({QStringLiteral("Zero"), QStringLiteral("One"), QStringLiteral("Two")});
+        combo->addItems({ QStringLiteral("Zero"), QStringLiteral("One"), QStringLiteral("Two") });
         check->setObjectName(QStringLiteral("check"));
         first->setObjectName(QStringLiteral("first_radio"));
         second->setObjectName(QStringLiteral("second_radio"));
         done->setObjectName(QStringLiteral("done_button"));
         auto* layout = new QVBoxLayout(&dialog);
-        for (QWidget* widget : {static_cast<QWidget*>(edit), static_cast<QWidget*>(combo),
-                                static_cast<QWidget*>(check), static_cast<QWidget*>(first),
-                                static_cast<QWidget*>(second), static_cast<QWidget*>(nested),
-                                static_cast<QWidget*>(done)})
+        for (QWidget* widget : { static_cast<QWidget*>(edit), static_cast<QWidget*>(combo),
+                 static_cast<QWidget*>(check), static_cast<QWidget*>(first),
+                 static_cast<QWidget*>(second), static_cast<QWidget*>(nested),
+                 static_cast<QWidget*>(done) })
             layout->addWidget(widget);
         QObject::connect(second, &QRadioButton::clicked, [this] { ++secondClicks; });
         QObject::connect(check, &QCheckBox::clicked, [this] { ++checkClicks; });
         QObject::connect(done, &QPushButton::clicked, &dialog, &QDialog::accept);
         QObject::connect(nested, &QPushButton::clicked, [this] {
-            nestedAnswer = QMessageBox::question(&dialog, QString(), QStringLiteral("Sure?"),
-                                                 QMessageBox::Yes | QMessageBox::No);
+            nestedAnswer = QMessageBox::question(
+                &dialog, QString(), QStringLiteral("Sure?"), QMessageBox::Yes | QMessageBox::No);
         });
     }
 };
@@ -120,12 +120,13 @@ void tst_ScriptRunner::missingTargetFailsAndClosesWindows_data()
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<QString>("failure");
 
-    QTest::newRow("no such button") << QByteArray(R"([{"set": ["check", true]}, {"click": "Nope"}])")
-                                    << "script step 2 {\"click\":\"Nope\"}";
-    QTest::newRow("combo text not offered") << QByteArray(R"([{"set": ["kind_combo", "Nine"]}])")
-                                            << "script step 1";
-    QTest::newRow("disabled button is not clicked") << QByteArray(R"([{"click": "Done"}])")
-                                                    << "script step 1";
+    QTest::newRow("no such button")
+        << QByteArray(R"([{"set": ["check", true]}, {"click": "Nope"}])")
+        << "script step 2 {\"click\":\"Nope\"}";
+    QTest::newRow("combo text not offered")
+        << QByteArray(R"([{"set": ["kind_combo", "Nine"]}])") << "script step 1";
+    QTest::newRow("disabled button is not clicked")
+        << QByteArray(R"([{"click": "Done"}])") << "script step 1";
 }
 
 void tst_ScriptRunner::missingTargetFailsAndClosesWindows()
@@ -209,10 +210,10 @@ void tst_ScriptRunner::refusesMalformedScript_data()
                                   << "script: step 2: unknown step \"press\"";
     QTest::newRow("two keys in a step") << QByteArray(R"([{"click": "a", "wait": 1}])")
                                         << "script: step 1: expected an object with one key";
-    QTest::newRow("set without value") << QByteArray(R"([{"set": ["name_edit"]}])")
-                                       << "script: step 1: bad value for \"set\"";
-    QTest::newRow("negative wait") << QByteArray(R"([{"wait": -5}])")
-                                   << "script: step 1: bad value for \"wait\"";
+    QTest::newRow("set without value")
+        << QByteArray(R"([{"set": ["name_edit"]}])") << "script: step 1: bad value for \"set\"";
+    QTest::newRow("negative wait")
+        << QByteArray(R"([{"wait": -5}])") << "script: step 1: bad value for \"wait\"";
 }
 
 void tst_ScriptRunner::refusesMalformedScript()
