@@ -198,7 +198,8 @@ void RpcServer::serve(Connection *connection, uint64_t id)
     RecordAssembler assembler(kMaxRecordSize);
     std::vector<uint8_t> pending;
     bool open = true;
-    while (open && waitReadable(fd)) {
+    // A blocking receive, woken directly by the data: stop() shuts the socket down to end it.
+    while (open && !m_stopping) {
         uint8_t buffer[16384];
         const ssize_t n = ::recv(fd, buffer, sizeof buffer, 0);
         if (n < 0 && errno == EINTR)

@@ -121,7 +121,11 @@ TcpSocket::Result TcpSocket::receiveSome(uint8_t *data, size_t capacity, size_t 
     received = 0;
     if (m_fd < 0)
         return Result::Closed;
+    // Wait first: a reply is never there yet right after the call went out.
     for (;;) {
+        const Result r = waitFor(POLLIN, deadline);
+        if (r != Result::Ok)
+            return r;
         const ssize_t n = ::recv(m_fd, data, capacity, 0);
         if (n > 0) {
             received = static_cast<size_t>(n);
@@ -129,14 +133,8 @@ TcpSocket::Result TcpSocket::receiveSome(uint8_t *data, size_t capacity, size_t 
         }
         if (n == 0)
             return Result::Closed;
-        if (errno == EINTR)
+        if (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)
             continue;
-        if (errno == EAGAIN || errno == EWOULDBLOCK) {
-            const Result r = waitFor(POLLIN, deadline);
-            if (r != Result::Ok)
-                return r;
-            continue;
-        }
         return errno == ECONNRESET ? Result::Closed : Result::Error;
     }
 }

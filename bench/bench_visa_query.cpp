@@ -1,0 +1,201 @@
+// Round-trip cost of one "FREQ?" query through our VISA library against the simulated
+// generator, beside pyvisa-py on the same simulator and a plain loopback TCP echo, all in one
+// run inside a private network namespace. Prints median and p99 of each and the ratios, and
+// exits 1 when a budget is missed: within 3x of two echo round trips (a query is a write call
+// and a read call), and at least 5x faster than pyvisa-py. Exit 77: could not measure.
+#include "Simulator.h"
+#include "visa.h"
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <string>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+using Clock = std::chrono::steady_clock;
+constexpr int kWarmup = 200;
+constexpr int kQueries = 3000;
+constexpr int kPythonQueries = 500;
+constexpr double kEchoBudget = 3.0;
+constexpr double kPythonBudget = 5.0;
+
+struct Figures
+{
+    double median = 0;
+    double p99 = 0;
+};
+
+Figures summarise(std::vector<double> micros)
+{
+    std::sort(micros.begin(), micros.end());
+    Figures f;
+    if (micros.empty())
+        return f;
+    f.median = micros[micros.size() / 2];
+    f.p99 = micros[std::min(micros.size() - 1, micros.size() * 99 / 100)];
+    return f;
+}
+
+double since(Clock::time_point start)
+{
+    return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
+}
+
+void enterPrivateNetwork(char **argv)
+{
+    if (std::getenv("SYNC_BENCH_NETNS"))
+        return;
+    setenv("SYNC_BENCH_NETNS", "1", 1);
+    if (std::system("unshare -rn true >/dev/null 2>&1") != 0) {
+        std::fprintf(stderr, "bench: needs a private network namespace (unshare -rn)\n");
+        std::exit(77);
+    }
+    execlp("unshare", "unshare", "-rn", "sh", "-c", "ip link set lo up && exec \"$0\"", argv[0],
+           static_cast<char *>(nullptr));
+    std::perror("unshare");
+    std::exit(77);
+}
+
+bool measureVisa(std::vector<double> &micros)
+{
+    ViSession rm = 0;
+    ViSession vi = 0;
+    if (viOpenDefaultRM(&rm) != VI_SUCCESS
+        || viOpen(rm, const_cast<ViRsrc>("TCPIP0::127.0.0.1::inst0::INSTR"), VI_NO_LOCK, 0, &vi) != VI_SUCCESS)
+        return false;
+    char buffer[1024];
+    for (int i = 0; i < kWarmup + kQueries; ++i) {
+        const auto start = Clock::now();
+        if (viPrintf(vi, const_cast<ViString>("FREQ?\n")) < VI_SUCCESS
+            || viScanf(vi, const_cast<ViString>("%1024t"), buffer) < VI_SUCCESS)
+            return false;
+        if (i >= kWarmup)
+            micros.push_back(since(start));
+    }
+    viClose(vi);
+    viClose(rm);
+    return std::strncmp(buffer, "+1.00000000000000E+03", 21) == 0;
+}
+
+bool measureEcho(std::vector<double> &micros)
+{
+    const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in addr = {};
+    addr.sin_family = AF_INET;
+    addr.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t len = sizeof addr;
+    if (::bind(listener, reinterpret_cast<sockaddr *>(&addr), sizeof addr) != 0 || ::listen(listener, 1) != 0
+        || ::getsockname(listener, reinterpret_cast<sockaddr *>(&addr), &len) != 0)
+        return false;
+    std::thread server([listener]() {
+        const int fd = ::accept(listener, nullptr, nullptr);
+        const int one = 1;
+        ::setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &one, sizeof one);
+        char data[256];
+        for (;;) {
+            const ssize_t n = ::recv(fd, data, sizeof data, 0);
+            if (n <= 0 || ::send(fd, data, size_t(n), MSG_NOSIGNAL) != n)
+                break;
+        }
+        ::close(fd);
+    });
+    const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
+    const int one = 1;
+    ::setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &one, sizeof one);
+    bool ok = ::connect(fd, reinterpret_cast<sockaddr *>(&addr), sizeof addr) == 0;
+    // About the size of one VXI-11 device_read call.
+    char message[64] = {};
+    for (int i = 0; ok && i < kWarmup + kQueries; ++i) {
+        const auto start = Clock::now();
+        ok = ::send(fd, message, sizeof message, MSG_NOSIGNAL) == ssize_t(sizeof message);
+        size_t got = 0;
+        while (ok && got < sizeof message) {
+            const ssize_t n = ::recv(fd, message + got, sizeof message - got, 0);
+            ok = n > 0;
+            got += ok ? size_t(n) : 0;
+        }
+        if (i >= kWarmup)
+            micros.push_back(since(start));
+    }
+    ::close(fd);
+    server.join();
+    ::close(listener);
+    return ok;
+}
+
+bool measurePyvisa(std::vector<double> &micros)
+{
+    const std::string script =
+        "import time, pyvisa\n"
+        "rm = pyvisa.ResourceManager('@py')\n"
+        "i = rm.open_resource('TCPIP0::127.0.0.1::inst0::INSTR')\n"
+        "for n in range(" + std::to_string(kWarmup + kPythonQueries) + "):\n"
+        "    t = time.perf_counter()\n"
+        "    i.query('FREQ?')\n"
+        "    d = (time.perf_counter() - t) * 1e6\n"
+        "    if n >= " + std::to_string(kWarmup) + ": print(d)\n"
+        "i.close()\n";
+    const std::string command = "/usr/bin/python3 -c \"" + script + "\" 2>/dev/null";
+    FILE *pipe = ::popen(command.c_str(), "r");
+    if (!pipe)
+        return false;
+    char line[64];
+    while (std::fgets(line, sizeof line, pipe))
+        micros.push_back(std::atof(line));
+    return ::pclose(pipe) == 0 && micros.size() == size_t(kPythonQueries);
+}
+} // namespace
+
+int main(int, char **argv)
+{
+    enterPrivateNetwork(argv);
+    unsetenv("SYNC_VXI11_PORTMAPPER_PORT");
+
+    SimOptions options; // port 111, where pyvisa-py looks
+    Simulator simulator(options);
+    std::string error;
+    if (!simulator.start(error)) {
+        std::fprintf(stderr, "bench: simulator: %s\n", error.c_str());
+        return 77;
+    }
+
+    std::vector<double> visa, echo, python;
+    if (!measureVisa(visa) || !measureEcho(echo)) {
+        std::fprintf(stderr, "bench: a measurement failed\n");
+        return 77;
+    }
+    const bool havePython = measurePyvisa(python);
+    simulator.stop();
+
+    const Figures v = summarise(visa), e = summarise(echo), p = summarise(python);
+    std::printf("%-34s %10s %10s\n", "round trip (microseconds)", "median", "p99");
+    std::printf("%-34s %10.1f %10.1f\n", "FREQ? through libvxivisa", v.median, v.p99);
+    std::printf("%-34s %10.1f %10.1f\n", "loopback TCP echo", e.median, e.p99);
+    if (havePython)
+        std::printf("%-34s %10.1f %10.1f\n", "FREQ? through pyvisa-py", p.median, p.p99);
+    else
+        std::printf("%-34s %10s %10s\n", "FREQ? through pyvisa-py", "n/a", "n/a");
+
+    const double echoRatio = v.median / (2 * e.median);
+    std::printf("\nlibvxivisa / two echo round trips: %.2f (budget <= %.1f)\n", echoRatio, kEchoBudget);
+    bool ok = echoRatio <= kEchoBudget;
+    if (havePython) {
+        const double pythonRatio = p.median / v.median;
+        std::printf("pyvisa-py / libvxivisa:            %.2f (budget >= %.1f)\n", pythonRatio, kPythonBudget);
+        ok = ok && pythonRatio >= kPythonBudget;
+    } else {
+        std::printf("pyvisa-py / libvxivisa:            not measured (python3-pyvisa-py missing)\n");
+        return 77;
+    }
+    std::printf("%s\n", ok ? "within budget" : "BUDGET MISSED");
+    return ok ? 0 : 1;
+}
