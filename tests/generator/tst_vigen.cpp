@@ -55,7 +55,6 @@ private slots:
     void notConnectedSendsNothing();
     void syncSequence();
     void syncStopsAtFirstFailure();
-    void frequencyList();
 
 private:
     DOC_VIGen* m_driver = nullptr;
@@ -223,13 +222,6 @@ void tst_VIGen::syncStopsAtFirstFailure()
     fakeVisaSetStatus("viClear", 0);
     queueReply("+1.0E+03\n");
     QVERIFY(m_driver->isConnected());
-}
-
-void tst_VIGen::frequencyList()
-{
-    QList<int> list{0, 5};
-    QCOMPARE(m_driver->getFrequencyList(list),
-             (QList<int>{1000, 2000, 3000, 4000, 5000, 6000, 7000, 8000, 9000, 10000}));
 }
 
 QTEST_MAIN(tst_VIGen)
