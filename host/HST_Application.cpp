@@ -40,6 +40,15 @@ const char* HST_Application::visaLibraryVariable()
     return "SYNC_VISA_LIBRARY";
 }
 
+QString HST_Application::visaLibraryFile()
+{
+#ifdef HST_VISA_LIBRARY_FILE
+    return QStringLiteral(HST_VISA_LIBRARY_FILE);
+#else
+    return QString();
+#endif
+}
+
 bool HST_Application::parseArguments(
     const QStringList& arguments, HST_Options& options, QString& error)
 {

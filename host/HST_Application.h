@@ -54,6 +54,8 @@ public:
     static QString defaultPluginFile();
     // Environment variable by which the plug-in finds the VISA library.
     static const char* visaLibraryVariable();
+    // Our VISA library of the same build, offered when the scenario says so; empty if none.
+    static QString visaLibraryFile();
     static bool parseArguments(const QStringList& arguments, HST_Options& options, QString& error);
 
     explicit HST_Application(const HST_Options& options, QObject* parent = nullptr);
