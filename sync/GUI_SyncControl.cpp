@@ -2,6 +2,7 @@
 
 #include "ui_GUI_SyncControl.h"
 
+#include "generator/DOC_VIGen.h"
 #include "plugin/APP_CameraTypeRecord.h"
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
@@ -11,6 +12,7 @@
 #include "util/FunctionLogGuard.h"
 #include "util/ScopeExit.h"
 #include "util/UTL_Messages.h"
+#include "util/UTL_TextHelpers.h"
 #include "util/UserOperationLog.h"
 
 #include <QKeyEvent>
@@ -40,18 +42,21 @@ GUI_SyncControl::GUI_SyncControl(APP_Host* host, QWidget* parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setWindowTitle(m_host->translate(QStringLiteral("p_synccontrol")));
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    m_generator = new DOC_VIGen(host);
 }
 
 GUI_SyncControl::~GUI_SyncControl()
 {
     try {
         static_cast<APP_LinkCoreManager*>(m_host)->shutdown();
-        // The generator arrives with its driver; until then it is never connected.
-        const bool connected = m_generatorAvailable && m_generator != nullptr;
+        const bool connected = m_generatorAvailable && m_generator && m_generator->isConnected();
         m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, connected);
+        if (m_generator)
+            m_generator->disconnect();
     } catch (const std::exception& e) {
         m_host->reportException(e);
     }
+    delete m_generator;
     delete m_ui;
 }
 
@@ -107,7 +112,14 @@ void GUI_SyncControl::init()
 
     try {
         guiInit();
-        m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, false);
+        const bool tryConnect =
+            m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, false);
+        m_generatorAvailable = m_generator->loadLibrary();
+        if (tryConnect && m_generatorAvailable && isIpAddress(m_generatorAddress)) {
+            m_generator->connect(0, ipToNumber(m_generatorAddress));
+            if (m_generator->isConnected() && !m_generator->isSupportedDevice())
+                m_generator->disconnect();
+        }
         m_initializing = false;
         startHubManager();
     } catch (const std::exception& e) {
