@@ -177,6 +177,11 @@ int main(int, char **argv)
     simulator.stop();
 
     const Figures v = summarise(visa), e = summarise(echo), p = summarise(python);
+    const std::string buildType = SYNC_BENCH_BUILD_TYPE;
+    std::printf("build type: %s%s\n", buildType.c_str(),
+                buildType == "Release" || buildType == "RelWithDebInfo"
+                    ? ""
+                    : " (unoptimised: configure with -DCMAKE_BUILD_TYPE=Release for real figures)");
     std::printf("%-34s %10s %10s\n", "round trip (microseconds)", "median", "p99");
     std::printf("%-34s %10.1f %10.1f\n", "FREQ? through libvxivisa", v.median, v.p99);
     std::printf("%-34s %10.1f %10.1f\n", "loopback TCP echo", e.median, e.p99);

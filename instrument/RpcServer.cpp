@@ -207,6 +207,8 @@ void RpcServer::serve(Connection *connection, uint64_t id)
         if (n <= 0)
             break;
         pending.insert(pending.end(), buffer, buffer + n);
+        // Replies to calls that arrived together leave together, in one send.
+        std::vector<uint8_t> outgoing;
         while (open && !pending.empty()) {
             const size_t used = assembler.feed(pending.data(), pending.size());
             pending.erase(pending.begin(), pending.begin() + static_cast<std::ptrdiff_t>(used));
@@ -221,31 +223,35 @@ void RpcServer::serve(Connection *connection, uint64_t id)
             if (!RpcCodec::parseCall(record.data(), record.size(), call)) {
                 uint32_t xid = 0;
                 // A call we can't read: tell the caller if we know who it is, then hang up.
-                if (RpcCodec::peekXid(record.data(), record.size(), xid))
-                    sendRecord(fd, RpcCodec::encodeRpcMismatch(xid));
+                if (RpcCodec::peekXid(record.data(), record.size(), xid)) {
+                    const std::vector<uint8_t> refusal = RpcCodec::encodeRpcMismatch(xid);
+                    outgoing.insert(outgoing.end(), refusal.begin(), refusal.end());
+                }
                 open = false;
                 break;
             }
             const RpcHandler::Action action = m_handler.handle(
                 id, call, record.data() + call.argsOffset, record.size() - call.argsOffset);
+            std::vector<uint8_t> reply;
             switch (action.kind) {
             case RpcHandler::Action::Reply:
-                open = sendRecord(fd, RpcCodec::encodeReply(call.xid, action.acceptStat, action.results));
+                reply = RpcCodec::encodeReply(call.xid, action.acceptStat, action.results);
                 break;
             case RpcHandler::Action::Silent:
                 break;
-            case RpcHandler::Action::DropMidReply: {
-                std::vector<uint8_t> reply = RpcCodec::encodeReply(call.xid, action.acceptStat, action.results);
+            case RpcHandler::Action::DropMidReply:
+                reply = RpcCodec::encodeReply(call.xid, action.acceptStat, action.results);
                 reply.resize(reply.size() / 2);
-                sendRecord(fd, reply);
                 open = false;
                 break;
-            }
             case RpcHandler::Action::Garbage:
-                open = sendRecord(fd, garbageRecord(call.xid));
+                reply = garbageRecord(call.xid);
                 break;
             }
+            outgoing.insert(outgoing.end(), reply.begin(), reply.end());
         }
+        if (!outgoing.empty() && !sendRecord(fd, outgoing))
+            open = false;
     }
     ::shutdown(fd, SHUT_RDWR);
     m_handler.connectionClosed(id);

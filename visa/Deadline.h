@@ -9,6 +9,8 @@ class Deadline
 public:
     using Clock = std::chrono::steady_clock;
 
+    Deadline() = default; // long past
+
     static Deadline in(std::chrono::milliseconds duration) { return Deadline(Clock::now() + duration); }
     static Deadline inMs(int64_t ms) { return in(std::chrono::milliseconds(ms)); }
 
@@ -22,5 +24,5 @@ public:
 
 private:
     explicit Deadline(Clock::time_point end) : m_end(end) {}
-    Clock::time_point m_end;
+    Clock::time_point m_end{};
 };

@@ -69,28 +69,46 @@ RpcClient::Status RpcClient::receiveRecord(std::vector<uint8_t> &record, const D
 RpcClient::Status RpcClient::call(uint32_t procedure, const std::vector<uint8_t> &args,
                                   const Deadline &deadline, std::vector<uint8_t> &results)
 {
-    if (!m_socket.isOpen())
-        return Status::ConnectionLost;
+    uint32_t xid = 0;
+    const Status status = send(procedure, args, deadline, xid);
+    return status == Status::Ok ? receive(xid, deadline, results) : status;
+}
+
+std::vector<uint8_t> RpcClient::prepare(uint32_t procedure, const std::vector<uint8_t> &args, uint32_t &xid)
+{
     RpcCodec::Call call;
-    call.xid = m_nextXid++;
+    call.xid = xid = m_nextXid++;
     call.program = m_program;
     call.version = m_version;
     call.procedure = procedure;
-    // Record mark and body in one send: split, they cost a delayed-ACK round trip per call.
-    const std::vector<uint8_t> record = RpcCodec::encodeCall(call, args);
-    const TcpSocket::Result sent = m_socket.sendAll(record.data(), record.size(), deadline);
-    if (sent != TcpSocket::Result::Ok)
-        return fromSocket(sent);
+    return RpcCodec::encodeCall(call, args);
+}
 
+RpcClient::Status RpcClient::sendRecords(const std::vector<uint8_t> &records, const Deadline &deadline)
+{
+    if (!m_socket.isOpen())
+        return Status::ConnectionLost;
+    // Record marks and bodies in one send: split, they cost a delayed-ACK round trip per call.
+    return fromSocket(m_socket.sendAll(records.data(), records.size(), deadline));
+}
+
+RpcClient::Status RpcClient::send(uint32_t procedure, const std::vector<uint8_t> &args,
+                                  const Deadline &deadline, uint32_t &xid)
+{
+    return sendRecords(prepare(procedure, args, xid), deadline);
+}
+
+RpcClient::Status RpcClient::receive(uint32_t xid, const Deadline &deadline, std::vector<uint8_t> &results)
+{
     for (;;) {
         std::vector<uint8_t> reply;
         const Status status = receiveRecord(reply, deadline);
         if (status != Status::Ok)
             return status;
-        uint32_t xid = 0;
-        if (!RpcCodec::peekXid(reply.data(), reply.size(), xid))
+        uint32_t replyXid = 0;
+        if (!RpcCodec::peekXid(reply.data(), reply.size(), replyXid))
             return Status::ProtocolError;
-        if (xid != call.xid)
+        if (replyXid != xid)
             continue; // the late answer to a call that already timed out
         RpcCodec::Reply header;
         if (!RpcCodec::parseReply(reply.data(), reply.size(), header))

@@ -28,6 +28,14 @@ public:
     // Sends the call and waits for its reply; results holds the procedure's encoded results.
     Status call(uint32_t procedure, const std::vector<uint8_t> &args, const Deadline &deadline,
                 std::vector<uint8_t> &results);
+    // The halves of call(), so that calls can go out together, in one send, before their
+    // replies are in. Replies come back in call order on one connection; receive() drops any
+    // with another xid.
+    std::vector<uint8_t> prepare(uint32_t procedure, const std::vector<uint8_t> &args, uint32_t &xid);
+    Status sendRecords(const std::vector<uint8_t> &records, const Deadline &deadline);
+    Status send(uint32_t procedure, const std::vector<uint8_t> &args, const Deadline &deadline,
+                uint32_t &xid);
+    Status receive(uint32_t xid, const Deadline &deadline, std::vector<uint8_t> &results);
     void close();
     bool isConnected() const { return m_socket.isOpen(); }
 

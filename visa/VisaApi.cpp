@@ -106,7 +106,8 @@ VXIVISA_EXPORT ViStatus VI_FUNCC viPrintf(ViSession vi, ViString writeFmt, ...)
         if (formatted != VI_SUCCESS)
             return formatted;
         std::lock_guard<std::mutex> lock(session->mutex());
-        return session->write(reinterpret_cast<const uint8_t *>(message.data()), message.size());
+        return session->write(reinterpret_cast<const uint8_t *>(message.data()), message.size(),
+                              VisaSession::expectsReply(message));
     } catch (const std::bad_alloc &) {
         return VI_ERROR_ALLOC;
     } catch (...) {

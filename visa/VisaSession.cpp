@@ -81,6 +81,7 @@ ViStatus VisaSession::open(const ResourceName &resource, bool lockDevice, uint32
 
 void VisaSession::destroyLink(const Deadline &deadline)
 {
+    m_pending.active = false;
     if (m_linkOpen && m_client.isConnected()) {
         int32_t error = 0;
         m_client.destroyLink(m_linkId, error, deadline);
@@ -91,6 +92,9 @@ void VisaSession::destroyLink(const Deadline &deadline)
 
 void VisaSession::close()
 {
+    // A query written and never read still reaches the instrument, as it would have unheld.
+    if (m_linkOpen)
+        finishPendingWrite();
     destroyLink(Deadline::inMs(std::min<int64_t>(m_options.timeoutMs, 1000)));
 }
 
@@ -112,8 +116,54 @@ ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
     return VisaStatus::fromTransport(status);
 }
 
-ViStatus VisaSession::write(const uint8_t *data, size_t size)
+bool VisaSession::expectsReply(const std::string &message)
 {
+    size_t unitStart = 0;
+    char quote = 0;
+    for (size_t i = 0; i < message.size(); ++i) {
+        const char c = message[i];
+        if (quote) {
+            quote = c == quote ? 0 : quote;
+        } else if (c == '"' || c == '\'') {
+            quote = c;
+        } else if (c == ';' || (c == '\n' && message.find_first_not_of(" \t\r\n", i) != std::string::npos)) {
+            unitStart = i + 1;
+        }
+    }
+    const size_t begin = message.find_first_not_of(" \t\r\n", unitStart);
+    if (begin == std::string::npos)
+        return false;
+    const size_t end = message.find_first_of(" \t\r\n", begin);
+    const std::string header = message.substr(begin, end == std::string::npos ? end : end - begin);
+    return !header.empty() && header.back() == '?';
+}
+
+ViStatus VisaSession::finishPendingWrite()
+{
+    if (!m_pending.active)
+        return VI_SUCCESS;
+    m_pending.active = false;
+    if (!m_pending.sent) {
+        m_pending.deadline = socketDeadline(Deadline::inMs(m_options.timeoutMs));
+        const Vxi11Client::Status status = m_client.sendPrepared(m_pending.record, m_pending.deadline);
+        if (status != Vxi11Client::Status::Ok)
+            return transportFailure(status);
+    }
+    vxi11::WriteResp resp;
+    const Vxi11Client::Status status = m_client.endWrite(m_pending.xid, resp, m_pending.deadline);
+    if (status != Vxi11Client::Status::Ok)
+        return transportFailure(status);
+    if (resp.error != vxi11::NoError)
+        return VisaStatus::fromDeviceError(resp.error);
+    // The rest of a piece can't be sent again once a read has gone out behind it.
+    return resp.size == m_pending.length ? VI_SUCCESS : VI_ERROR_IO;
+}
+
+ViStatus VisaSession::write(const uint8_t *data, size_t size, bool replyExpected)
+{
+    const ViStatus pending = finishPendingWrite();
+    if (pending != VI_SUCCESS)
+        return pending;
     if (!m_linkOpen)
         return VI_ERROR_CONN_LOST;
     const Deadline deadline = Deadline::inMs(m_options.timeoutMs);
@@ -121,11 +171,19 @@ ViStatus VisaSession::write(const uint8_t *data, size_t size)
     size_t offset = 0;
     do {
         const size_t length = std::min(chunk, size - offset);
+        const bool last = offset + length == size;
         vxi11::WriteParms parms;
         parms.linkId = m_linkId;
         parms.ioTimeout = static_cast<uint32_t>(deadline.remainingMs());
-        parms.flags = offset + length == size ? uint32_t(vxi11::FlagEnd) : 0u;
+        parms.flags = last ? uint32_t(vxi11::FlagEnd) : 0u;
         parms.data.assign(data + offset, data + offset + length);
+        if (last && replyExpected) {
+            m_pending.record = m_client.prepareWrite(parms, m_pending.xid);
+            m_pending.length = length;
+            m_pending.sent = false;
+            m_pending.active = true;
+            return VI_SUCCESS;
+        }
         vxi11::WriteResp resp;
         const Vxi11Client::Status status = m_client.deviceWrite(parms, resp, socketDeadline(deadline));
         if (status != Vxi11Client::Status::Ok)
@@ -152,8 +210,25 @@ ViStatus VisaSession::read(std::string &message, size_t keep)
         parms.linkId = m_linkId;
         parms.requestSize = m_options.readChunk;
         parms.ioTimeout = static_cast<uint32_t>(deadline.remainingMs());
+        const bool withWrite = m_pending.active && !m_pending.sent;
+        uint32_t xid = 0;
+        Vxi11Client::Status status = m_client.beginRead(
+            parms, withWrite ? m_pending.record : std::vector<uint8_t>(), socketDeadline(deadline), xid);
+        if (status != Vxi11Client::Status::Ok) {
+            m_pending.active = false;
+            return transportFailure(status);
+        }
+        if (withWrite) {
+            m_pending.sent = true;
+            m_pending.deadline = socketDeadline(deadline);
+        }
+        // The query's write reply comes first; if it failed, this read's reply is dropped
+        // later by its xid.
+        const ViStatus written = finishPendingWrite();
+        if (written != VI_SUCCESS)
+            return written;
         vxi11::ReadResp resp;
-        const Vxi11Client::Status status = m_client.deviceRead(parms, resp, socketDeadline(deadline));
+        status = m_client.endRead(xid, resp, socketDeadline(deadline));
         if (status != Vxi11Client::Status::Ok)
             return transportFailure(status);
         if (resp.error != vxi11::NoError)
@@ -172,6 +247,9 @@ ViStatus VisaSession::read(std::string &message, size_t keep)
 
 ViStatus VisaSession::clear()
 {
+    // A clear is the way out of trouble: a held write still goes out, but its failure is not
+    // what the clear reports.
+    finishPendingWrite();
     if (!m_linkOpen)
         return VI_ERROR_CONN_LOST;
     const Deadline deadline = Deadline::inMs(m_options.timeoutMs);

@@ -37,7 +37,19 @@ std::vector<FakeVxi11Server::WriteChunk> FakeVxi11Server::writes()
 std::string FakeVxi11Server::lastMessage()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    return m_lastMessage;
+    return m_messages.empty() ? std::string() : m_messages.back();
+}
+
+std::vector<std::string> FakeVxi11Server::messages()
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    return m_messages;
+}
+
+void FakeVxi11Server::failNextWrite(int32_t error)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_nextWriteError = error;
 }
 
 int FakeVxi11Server::destroyedLinks()
@@ -86,11 +98,13 @@ RpcHandler::Action FakeVxi11Server::handle(uint64_t connectionId, const RpcCodec
         m_writes.push_back({parms.data.size(), (parms.flags & vxi11::FlagEnd) != 0});
         m_input.append(parms.data.begin(), parms.data.end());
         if (parms.flags & vxi11::FlagEnd) {
-            m_lastMessage.swap(m_input);
+            m_messages.push_back(m_input);
             m_input.clear();
         }
         vxi11::WriteResp resp;
         resp.size = static_cast<uint32_t>(parms.data.size());
+        resp.error = m_nextWriteError;
+        m_nextWriteError = 0;
         action.results = vxi11::encode(resp);
         break;
     }

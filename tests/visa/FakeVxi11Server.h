@@ -37,10 +37,14 @@ public:
 
     void setCreateLinkError(int32_t error) { m_createLinkError = error; }
     void setMaxRecvSize(uint32_t size) { m_maxRecvSize = size; }
+    // The next device_write answers with this error.
+    void failNextWrite(int32_t error);
     void addRead(const ReadStep &step);
     void addReply(const std::string &data) { addRead({data, 4, 0, 0, Action::Reply}); }
 
     std::vector<WriteChunk> writes();
+    // Every complete message written, in order.
+    std::vector<std::string> messages();
     std::string lastMessage();
     int destroyedLinks();
     int openConnections();
@@ -55,10 +59,11 @@ private:
     std::mutex m_mutex;
     int32_t m_createLinkError = 0;
     uint32_t m_maxRecvSize = 4096;
+    int32_t m_nextWriteError = 0;
     std::deque<ReadStep> m_reads;
     std::vector<WriteChunk> m_writes;
     std::string m_input;
-    std::string m_lastMessage;
+    std::vector<std::string> m_messages;
     int m_destroyed = 0;
     int m_connections = 0;
     std::vector<uint64_t> m_seen;

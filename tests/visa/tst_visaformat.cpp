@@ -2,6 +2,7 @@
 // viScanf that decide what goes on the wire and what lands in the caller's buffer.
 #include "FormatIo.h"
 #include "ResourceName.h"
+#include "VisaSession.h"
 
 #include <QtTest>
 
@@ -43,6 +44,8 @@ private slots:
     void scanNeverWritesPastWidth();
     void scanWord();
     void scanRefusesUnsupportedConversions();
+    void queriesAreRecognised_data();
+    void queriesAreRecognised();
 };
 
 void tst_VisaFormat::resourceNames_data()
@@ -173,6 +176,27 @@ void tst_VisaFormat::scanRefusesUnsupportedConversions()
     QVERIFY(!needsInput); // nothing to read: no traffic
     QCOMPARE(FormatIo::validateScan("%1024t", needsInput), VI_SUCCESS);
     QVERIFY(needsInput);
+}
+
+void tst_VisaFormat::queriesAreRecognised_data()
+{
+    QTest::addColumn<QByteArray>("message");
+    QTest::addColumn<bool>("query");
+    QTest::newRow("plain query") << QByteArray("FREQ?\n") << true;
+    QTest::newRow("common query") << QByteArray("*IDN?") << true;
+    QTest::newRow("query with a parameter") << QByteArray("VOLT? MAX\n") << true;
+    QTest::newRow("query last in a compound message") << QByteArray("OUTP ON;FREQ?\n") << true;
+    QTest::newRow("command after a query") << QByteArray("FREQ?;OUTP ON\n") << false;
+    QTest::newRow("command with '?' in quoted text") << QByteArray("DISP:TEXT \"why?\"\n") << false;
+    QTest::newRow("plain command") << QByteArray("FREQ 1000\n") << false;
+    QTest::newRow("empty") << QByteArray() << false;
+}
+
+void tst_VisaFormat::queriesAreRecognised()
+{
+    QFETCH(QByteArray, message);
+    QFETCH(bool, query);
+    QCOMPARE(VisaSession::expectsReply(message.toStdString()), query);
 }
 
 QTEST_APPLESS_MAIN(tst_VisaFormat)

@@ -33,6 +33,9 @@ private slots:
     void readFailures_data();
     void readFailures();
     void writeSplitsAtMaxRecvSize();
+    void queryWriteFailureIsReportedByTheRead();
+    void heldQueryStillReachesTheInstrument_data();
+    void heldQueryStillReachesTheInstrument();
     void longReplyFillsBufferAndIsDrained();
     void linkIsDestroyedOnEveryClose();
     void openFailures_data();
@@ -174,6 +177,51 @@ void tst_VisaSession::writeSplitsAtMaxRecvSize()
     QCOMPARE(chunks[2].size, size_t(8));
     QVERIFY(!chunks[0].end && !chunks[1].end && chunks[2].end);
     QCOMPARE(m_server->lastMessage(), text.toStdString());
+}
+
+void tst_VisaSession::queryWriteFailureIsReportedByTheRead()
+{
+    QCOMPARE(open(), VI_SUCCESS);
+    m_server->failNextWrite(17);
+    m_server->addReply("never read\n");
+    // The query's write goes out with the read, so the read reports the write's failure.
+    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("FREQ?\n")), VI_SUCCESS);
+    char buffer[1024];
+    QCOMPARE(viScanf(m_vi, const_cast<ViString>("%1024t"), buffer), VI_ERROR_IO);
+    // A command's write is not held: its failure is its own.
+    m_server->failNextWrite(17);
+    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("OUTP ON\n")), VI_ERROR_IO);
+    // The orphaned read reply was not taken for this one.
+    m_server->addReply("fresh\n");
+    QByteArray reply;
+    QCOMPARE(query("*IDN?\n", reply), VI_SUCCESS);
+    QCOMPARE(reply, QByteArray("fresh\n"));
+}
+
+void tst_VisaSession::heldQueryStillReachesTheInstrument_data()
+{
+    QTest::addColumn<QString>("next");
+    QTest::newRow("another write") << "write";
+    QTest::newRow("a clear") << "clear";
+    QTest::newRow("a close") << "close";
+}
+
+void tst_VisaSession::heldQueryStillReachesTheInstrument()
+{
+    QFETCH(QString, next);
+    QCOMPARE(open(), VI_SUCCESS);
+    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*IDN?\n")), VI_SUCCESS);
+    if (next == "write")
+        QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*RST\n")), VI_SUCCESS);
+    else if (next == "clear")
+        QCOMPARE(viClear(m_vi), VI_SUCCESS);
+    else
+        QCOMPARE(viClose(m_vi), VI_SUCCESS);
+    const std::vector<std::string> messages = m_server->messages();
+    QVERIFY(!messages.empty());
+    QCOMPARE(messages.front(), std::string("*IDN?\n"));
+    if (next == "write")
+        QCOMPARE(messages.back(), std::string("*RST\n"));
 }
 
 void tst_VisaSession::longReplyFillsBufferAndIsDrained()
