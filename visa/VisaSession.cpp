@@ -92,10 +92,12 @@ void VisaSession::destroyLink(const Deadline &deadline)
 
 void VisaSession::close()
 {
-    // A query written and never read still reaches the instrument, as it would have unheld.
-    if (m_linkOpen)
-        finishPendingWrite();
-    destroyLink(Deadline::inMs(std::min<int64_t>(m_options.timeoutMs, 1000)));
+    // A query written and never read still reaches the instrument, as it would have unheld;
+    // its reply is not awaited (destroy_link's reply is told apart by xid).
+    const Deadline deadline = Deadline::inMs(std::min<int64_t>(m_options.timeoutMs, 1000));
+    if (m_linkOpen && m_pending.active && !m_pending.sent)
+        m_client.sendPrepared(m_pending.record, deadline);
+    destroyLink(deadline);
 }
 
 ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
@@ -247,12 +249,14 @@ ViStatus VisaSession::read(std::string &message, size_t keep)
 
 ViStatus VisaSession::clear()
 {
-    // A clear is the way out of trouble: a held write still goes out, but its failure is not
-    // what the clear reports.
-    finishPendingWrite();
     if (!m_linkOpen)
         return VI_ERROR_CONN_LOST;
     const Deadline deadline = Deadline::inMs(m_options.timeoutMs);
+    // A clear is the way out of trouble: a held query still goes out first, but its reply is
+    // not awaited and its failure is not what the clear reports.
+    if (m_pending.active && !m_pending.sent)
+        m_client.sendPrepared(m_pending.record, socketDeadline(deadline));
+    m_pending.active = false;
     vxi11::GenericParms parms;
     parms.linkId = m_linkId;
     parms.ioTimeout = m_options.timeoutMs;
