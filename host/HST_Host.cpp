@@ -7,6 +7,7 @@
 #include "host/HST_Preferences.h"
 #include "host/HST_Recorder.h"
 #include "util/APP_Exception.h"
+#include "web/JS_Mediator.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -18,6 +19,8 @@
 #include <QProgressDialog>
 #include <QThread>
 #include <QTranslator>
+#include <QWebFrame>
+#include <QWebView>
 
 namespace {
 
@@ -68,6 +71,8 @@ HST_Host::HST_Host(
     , m_hubs(new HST_HubList(scenario.hubs, recorder))
 {
     initResources();
+    m_scriptObject->setObjectName(QStringLiteral("app"));
+    m_mainScriptObject->setObjectName(QStringLiteral("main"));
     for (auto it = scenario.prefs.begin(); it != scenario.prefs.end(); ++it)
         m_prefs->preset(it.key(), it.value());
     for (int type : scenario.syncCapableTypes) {
@@ -195,6 +200,25 @@ QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessag
         m_recorder->record(QStringLiteral("message"), event);
     }
     return clicked;
+}
+
+void HST_Host::attachMediator(QWebView* view, JS_Mediator* mediator)
+{
+    QObject* object = mediator;
+    if (!view || !object)
+        return;
+    // Through the meta object: the mediator's code lives in the plug-in, which the host
+    // doesn't link.
+    if (object->metaObject()->indexOfProperty("webView") >= 0)
+        object->setProperty("webView", QVariant::fromValue(view));
+    else
+        QMetaObject::invokeMethod(object, "setWebView", Q_ARG(QWebView*, view));
+    QWebFrame* frame = view->page()->mainFrame();
+    const QString name = object->objectName();
+    frame->addToJavaScriptWindowObject(name, object);
+    connect(frame, &QWebFrame::javaScriptWindowObjectCleared, object,
+        [frame, object, name] { frame->addToJavaScriptWindowObject(name, object); });
+    m_recorder->record(QStringLiteral("attachMediator"), { { QStringLiteral("name"), name } });
 }
 
 void HST_Host::reportException(const std::exception& e)

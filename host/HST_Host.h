@@ -60,6 +60,13 @@ public:
     bool isFileMode() override { return m_mode == 2; }
     QWidget* getMainWindow() override;
     QWidget* parentWidget() override;
+    // Plain objects: pages find "app" and "main", with nothing on them yet.
+    QObject* scriptObject() override { return m_scriptObject; }
+    QObject* mainScriptObject() override { return m_mainScriptObject; }
+    // Stores the view in the mediator's property "webView" (or by its invokable
+    // setWebView(QWebView*)) and publishes the mediator under its object name, again whenever
+    // the page's window object is cleared.
+    void attachMediator(QWebView* view, JS_Mediator* mediator) override;
     void reportException(const std::exception& e) override;
     void showInformation(const QString& text, QWidget* parent) override;
     void showInformationList(
@@ -139,6 +146,8 @@ private:
     std::unique_ptr<HST_Preferences> m_prefs;
     QTranslator* m_translator = nullptr;
     QPointer<QWidget> m_mainWindow;
+    QObject* m_scriptObject;
+    QObject* m_mainScriptObject;
     int m_mode = 0;
     int m_modalDepth = 0;
 

@@ -17,10 +17,7 @@ public:
     void showDropDownBox(const QString&, const QRect&) override { }
     void hideDropDownBoxAt(const QString&, const QPoint&) override { }
     void hideDropDownBox(const QString&) override { }
-    QObject* scriptObject() override { return nullptr; }
-    QObject* mainScriptObject() override { return nullptr; }
     QObject* mdiWidget() override { return nullptr; }
-    void attachMediator(QWebView*, JS_Mediator*) override { }
     QString& itemLabel(QString& out, const QString&) override
     {
         out.clear();
