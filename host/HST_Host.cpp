@@ -67,6 +67,8 @@ HST_Host::HST_Host(
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
+    , m_scriptObject(new QObject(this))
+    , m_mainScriptObject(new QObject(this))
     , m_mode(scenario.mode)
     , m_hubs(new HST_HubList(scenario.hubs, recorder))
 {
