@@ -3,6 +3,10 @@
 // run inside a private network namespace. Prints median and p99 of each and the ratios, and
 // exits 1 when a budget is missed: within 3x of two echo round trips (a query is a write call
 // and a read call), and at least 5x faster than pyvisa-py. Exit 77: could not measure.
+//
+// Everything runs on one CPU (pass --no-pin to let it spread): in a virtual machine a wake-up
+// on another, idle CPU can cost more than the work being measured, and it varies from run to
+// run. Pinned, all three figures pay the same same-CPU switch.
 #include "Simulator.h"
 #include "visa.h"
 
@@ -14,6 +18,7 @@
 #include <cstring>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <sched.h>
 #include <string>
 #include <sys/socket.h>
 #include <thread>
@@ -50,6 +55,23 @@ double since(Clock::time_point start)
     return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
 }
 
+// Keeps this process, its threads and its children on the first CPU it may use.
+int pinToOneCpu()
+{
+    cpu_set_t allowed;
+    if (sched_getaffinity(0, sizeof allowed, &allowed) != 0)
+        return -1;
+    for (int cpu = 0; cpu < CPU_SETSIZE; ++cpu) {
+        if (!CPU_ISSET(cpu, &allowed))
+            continue;
+        cpu_set_t one;
+        CPU_ZERO(&one);
+        CPU_SET(cpu, &one);
+        return sched_setaffinity(0, sizeof one, &one) == 0 ? cpu : -1;
+    }
+    return -1;
+}
+
 void enterPrivateNetwork(char **argv)
 {
     if (std::getenv("SYNC_BENCH_NETNS"))
@@ -59,8 +81,8 @@ void enterPrivateNetwork(char **argv)
         std::fprintf(stderr, "bench: needs a private network namespace (unshare -rn)\n");
         std::exit(77);
     }
-    execlp("unshare", "unshare", "-rn", "sh", "-c", "ip link set lo up && exec \"$0\"", argv[0],
-           static_cast<char *>(nullptr));
+    execlp("unshare", "unshare", "-rn", "sh", "-c", "ip link set lo up && exec \"$0\" \"$@\"", argv[0],
+           argv[1], static_cast<char *>(nullptr));
     std::perror("unshare");
     std::exit(77);
 }
@@ -155,10 +177,12 @@ bool measurePyvisa(std::vector<double> &micros)
 }
 } // namespace
 
-int main(int, char **argv)
+int main(int argc, char **argv)
 {
+    const bool pin = !(argc > 1 && std::strcmp(argv[1], "--no-pin") == 0);
     enterPrivateNetwork(argv);
     unsetenv("SYNC_VXI11_PORTMAPPER_PORT");
+    const int cpu = pin ? pinToOneCpu() : -1;
 
     SimOptions options; // port 111, where pyvisa-py looks
     Simulator simulator(options);
@@ -182,6 +206,10 @@ int main(int, char **argv)
                 buildType == "Release" || buildType == "RelWithDebInfo"
                     ? ""
                     : " (unoptimised: configure with -DCMAKE_BUILD_TYPE=Release for real figures)");
+    if (cpu >= 0)
+        std::printf("pinned to CPU %d\n", cpu);
+    else
+        std::printf("not pinned\n");
     std::printf("%-34s %10s %10s\n", "round trip (microseconds)", "median", "p99");
     std::printf("%-34s %10.1f %10.1f\n", "FREQ? through libvxivisa", v.median, v.p99);
     std::printf("%-34s %10.1f %10.1f\n", "loopback TCP echo", e.median, e.p99);

@@ -7,6 +7,7 @@
 #include <iomanip>
 #include <locale>
 #include <sstream>
+#include <unordered_map>
 #include <vector>
 
 namespace {
@@ -111,7 +112,12 @@ bool matchNodes(const std::vector<Node> &nodes, size_t n, const std::vector<std:
 
 bool headerIs(const std::vector<std::string> &tokens, const char *pattern)
 {
-    return matchNodes(parsePattern(pattern), 0, tokens, 0);
+    // Patterns are string literals: parsed once per thread, keyed by address.
+    thread_local std::unordered_map<const char *, std::vector<Node>> parsed;
+    auto it = parsed.find(pattern);
+    if (it == parsed.end())
+        it = parsed.emplace(pattern, parsePattern(pattern)).first;
+    return matchNodes(it->second, 0, tokens, 0);
 }
 
 std::vector<std::string> headerTokens(std::string header)
