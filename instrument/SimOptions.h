@@ -14,7 +14,7 @@ struct SimOptions
     std::string maker = "Simulated Instruments Inc.";
     std::string model = "33210A";
     std::string serial = "SIM0000001";
-    std::string firmware = "1.03-1.01-2.00-52-00";
+    std::string firmware = "1.0.0";
     std::string logPath;
     uint32_t delayMs = 0;
     Stage silentAt = Stage::None;

@@ -62,7 +62,8 @@ RpcHandler::Action Simulator::handle(uint64_t connectionId, const RpcCodec::Call
 {
     if (call.program == vxi11::kPortmapperProgram)
         return m_portmapper.handle(call, args, size);
-    if (call.program == vxi11::kCoreProgram)
+    // Links belong to a TCP connection; over UDP (connection 0) only the portmapper answers.
+    if (call.program == vxi11::kCoreProgram && connectionId != 0)
         return m_core.handle(connectionId, call, args, size);
     Action action;
     action.acceptStat = RpcCodec::ProgUnavail;
