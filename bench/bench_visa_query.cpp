@@ -77,7 +77,7 @@ void enterPrivateNetwork(char **argv)
     if (std::getenv("SYNC_BENCH_NETNS"))
         return;
     setenv("SYNC_BENCH_NETNS", "1", 1);
-    if (std::system("unshare -rn true >/dev/null 2>&1") != 0) {
+    if (std::system("unshare -rn sh -c 'ip link set lo up' >/dev/null 2>&1") != 0) {
         std::fprintf(stderr, "bench: needs a private network namespace (unshare -rn)\n");
         std::exit(77);
     }
