@@ -106,6 +106,9 @@ ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
     case Vxi11Client::Status::Timeout:
         // The link stays: the late reply will be recognised by its xid and dropped.
         break;
+    case Vxi11Client::Status::Rejected:
+        // A well-formed refusal of one call: the connection itself is fine.
+        break;
     case Vxi11Client::Status::ProtocolError:
         // The stream can't be trusted any more; free the instrument's link if it still listens.
         destroyLink(Deadline::inMs(kCleanupMs));
@@ -120,24 +123,24 @@ ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
 
 bool VisaSession::expectsReply(const std::string &message)
 {
+    const size_t last = message.find_last_not_of(" \t\r\n");
+    if (last == std::string::npos)
+        return false;
     size_t unitStart = 0;
     char quote = 0;
-    for (size_t i = 0; i < message.size(); ++i) {
+    for (size_t i = 0; i < last; ++i) {
         const char c = message[i];
-        if (quote) {
+        if (quote)
             quote = c == quote ? 0 : quote;
-        } else if (c == '"' || c == '\'') {
+        else if (c == '"' || c == '\'')
             quote = c;
-        } else if (c == ';' || (c == '\n' && message.find_first_not_of(" \t\r\n", i) != std::string::npos)) {
+        else if (c == ';' || c == '\n')
             unitStart = i + 1;
-        }
     }
     const size_t begin = message.find_first_not_of(" \t\r\n", unitStart);
-    if (begin == std::string::npos)
-        return false;
     const size_t end = message.find_first_of(" \t\r\n", begin);
-    const std::string header = message.substr(begin, end == std::string::npos ? end : end - begin);
-    return !header.empty() && header.back() == '?';
+    const size_t headerEnd = end == std::string::npos || end > last ? last + 1 : end;
+    return message[headerEnd - 1] == '?';
 }
 
 ViStatus VisaSession::finishPendingWrite()
