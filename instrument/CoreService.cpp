@@ -211,6 +211,14 @@ RpcHandler::Action CoreService::deviceRead(const uint8_t *args, size_t size)
 
 RpcHandler::Action CoreService::genericCall(uint32_t procedure, const uint8_t *args, size_t size)
 {
+    // No interrupt channel, no service requests, no bus commands on this instrument.
+    if (procedure == vxi11::CreateIntrChan || procedure == vxi11::DestroyIntrChan
+        || procedure == vxi11::DeviceEnableSrq || procedure == vxi11::DeviceDoCmd) {
+        std::vector<uint8_t> bytes = vxi11::encodeError(vxi11::OperationNotSupported);
+        if (procedure == vxi11::DeviceDoCmd)
+            bytes.resize(bytes.size() + 4, 0); // Device_DocmdResp: empty data after the error
+        return reply(bytes);
+    }
     uint32_t linkId = 0;
     if (!vxi11::decodeUint(args, size, linkId))
         return garbageArgs();
@@ -218,30 +226,21 @@ RpcHandler::Action CoreService::genericCall(uint32_t procedure, const uint8_t *a
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         const auto it = m_links.find(linkId);
-        if (procedure == vxi11::CreateIntrChan || procedure == vxi11::DestroyIntrChan
-            || procedure == vxi11::DeviceEnableSrq || procedure == vxi11::DeviceDoCmd)
-            error = vxi11::OperationNotSupported;
-        else if (it == m_links.end())
+        if (it == m_links.end()) {
             error = vxi11::InvalidLinkIdentifier;
-        else if (procedure == vxi11::DeviceClear) {
+        } else if (procedure == vxi11::DeviceClear) {
             it->second.input.clear();
             it->second.output.clear();
         }
     }
     if (procedure == vxi11::DeviceClear && error == vxi11::NoError)
         m_instrument.logEvent("<device clear>");
+    std::vector<uint8_t> bytes = vxi11::encodeError(error);
     if (procedure == vxi11::DeviceReadStb) {
-        vxi11::WriteResp resp; // Device_ReadStbResp has the same form: error, then one word
-        resp.error = error;
-        return reply(vxi11::encode(resp));
+        const std::vector<uint8_t> stb = vxi11::encodeUint(0); // Device_ReadStbResp: status byte
+        bytes.insert(bytes.end(), stb.begin(), stb.end());
     }
-    if (procedure == vxi11::DeviceDoCmd) {
-        // Device_DocmdResp: the error, then empty opaque data.
-        std::vector<uint8_t> bytes = vxi11::encodeError(error);
-        bytes.resize(bytes.size() + 4, 0);
-        return reply(bytes);
-    }
-    return reply(vxi11::encodeError(error));
+    return reply(bytes);
 }
 
 RpcHandler::Action CoreService::destroyLink(const uint8_t *args, size_t size)
