@@ -1,15 +1,18 @@
 #pragma once
 
-#include "web/GUI_Dialog.h"
+#include "web/GUI_WebViewDialog.h"
 
-// The modeless dialog that some plug-ins of the frame live in. Only the frame's view of it is
-// here: it tells when it was shown and closed, and may refuse to close.
-class GUI_ModelessPatternDialog : public GUI_Dialog
+class JS_Mediator_ModelessPatternDialog;
+
+// The modeless web dialog that some plug-ins of the frame live in. The frame sees only this:
+// it tells when it was shown and closed, and may refuse to close.
+class GUI_ModelessPatternDialog : public GUI_WebViewDialog
 {
     Q_OBJECT
 
 public:
-    explicit GUI_ModelessPatternDialog(QWidget* parent);
+    GUI_ModelessPatternDialog(APP_Host* host, const QString& title, const QString& url,
+                              JS_Mediator_ModelessPatternDialog* mediator, QWidget* parent);
 
     // The dialog's own test whether it may close now.
     virtual bool canClose() { return true; }

@@ -1,0 +1,64 @@
+#include "web/GUI_WebPage.h"
+
+#include "plugin/APP_Host.h"
+#include "plugin/PLG_Interface.h"
+#include "web/GUI_QrcNetworkAccess.h"
+
+#include <QHash>
+#include <QNetworkRequest>
+#include <QWebSettings>
+#include <QWidget>
+
+GUI_WebPage::GUI_WebPage(APP_Host* host, QObject* parent)
+    : QWebPage(parent)
+    , m_host(host)
+{
+    setNetworkAccessManager(new GUI_QrcNetworkAccess(this));
+    // Object elements reach createPlugin only with plug-ins on.
+    settings()->setAttribute(QWebSettings::PluginsEnabled, true);
+}
+
+QObject* GUI_WebPage::createPlugin(const QString& classid, const QUrl&, const QStringList&,
+                                   const QStringList&)
+{
+    if (!m_host)
+        return nullptr;
+    try {
+        if (classid == QLatin1String("mdi"))
+            return m_host->mdiWidget();
+        static const QHash<QString, QString> pluginOfClass{
+            {QStringLiteral("histogram"), QStringLiteral("histogram")},
+            {QStringLiteral("lineprofile"), QStringLiteral("lineprofile")},
+            {QStringLiteral("lut"), QStringLiteral("lut")},
+            {QStringLiteral("sensorlut"), QStringLiteral("m_sensorlut")},
+            {QStringLiteral("livecontrol_hwimage_trigger_histogram"), QStringLiteral("livecontrol")},
+            {QStringLiteral("livecontrol_auto_exposure_histogram"), QStringLiteral("livecontrol")},
+            {QStringLiteral("imagetrigger_histogram"), QStringLiteral("imagetrigger")},
+            {QStringLiteral("analoggain"), QStringLiteral("m_analoggain")},
+            {QStringLiteral("focuscheck"), QStringLiteral("m_focuscheck")},
+        };
+        const auto found = pluginOfClass.constFind(classid);
+        if (found == pluginOfClass.constEnd())
+            return nullptr;
+        PLG_Interface* plugin = m_host->pluginByName(found.value());
+        if (!plugin)
+            return nullptr;
+        plugin->prepareEmbedding();
+        return plugin->pageWidget();
+    } catch (const std::exception& e) {
+        m_host->reportException(e);
+    }
+    return nullptr;
+}
+
+void GUI_WebPage::javaScriptConsoleMessage(const QString&, int, const QString&) {}
+
+bool GUI_WebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest& request,
+                                          NavigationType type)
+{
+    if (!GUI_QrcNetworkAccess::isAllowed(request.url())) {
+        qWarning().noquote() << "page navigation refused:" << request.url().toString();
+        return false;
+    }
+    return QWebPage::acceptNavigationRequest(frame, request, type);
+}
