@@ -6,8 +6,14 @@
 #include "plugin/APP_CameraTypeRecord.h"
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
+#include "plugin/DOC_LinkCore.h"
 #include "plugin/SyncKeys.h"
+#include "sync/GUI_SyncControlButton.h"
+#include "sync/GUI_SyncControlCombobox.h"
+#include "sync/GUI_SyncControlSearchSetting.h"
+#include "sync/GUI_SyncControlSetting.h"
 #include "sync/SyncCameraOrder.h"
+#include "sync/SyncWiringDiagramWidget.h"
 #include "util/APP_Exception.h"
 #include "util/FunctionLogGuard.h"
 #include "util/ScopeExit.h"
@@ -15,12 +21,25 @@
 #include "util/UTL_TextHelpers.h"
 #include "util/UserOperationLog.h"
 
+#include <QCloseEvent>
+#include <QHeaderView>
 #include <QKeyEvent>
+#include <QMutexLocker>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
-// The exit half of the frame every slot and init share: the leave line, written from inside
-// the callable so it carries the callable's name, then a guiUpdate, also after an exception.
+const QColor HubGrey(225, 225, 225);
+
+QString indexParameter(int index)
+{
+    return FunctionLogGuard::parameter(QStringLiteral("index"), index);
+}
+
+// The exit half of the frame that the slots and init share: the leave line, written from
+// inside the callable so that it carries the callable's name, then a guiUpdate.
 auto exitFrame(GUI_SyncControl* dialog, const QString& function)
 {
     return ScopeExit([dialog, function]() {
@@ -29,7 +48,28 @@ auto exitFrame(GUI_SyncControl* dialog, const QString& function)
     });
 }
 
+QTableWidgetItem* hubItem(const QString& text, const QColor& background)
+{
+    auto* item = new QTableWidgetItem(text);
+    item->setBackground(background);
+    item->setTextAlignment(Qt::AlignCenter);
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    return item;
+}
+
 } // namespace
+
+template <typename Body>
+void GUI_SyncControl::slotFrame(const QString& function, const QString& parameters, Body body)
+{
+    FunctionLogGuard::writeEnter(function, FunctionLogGuard::normalized(parameters));
+    const auto exit = exitFrame(this, function);
+    try {
+        body();
+    } catch (const std::exception& e) {
+        m_host->reportException(e);
+    }
+}
 
 GUI_SyncControl::GUI_SyncControl(APP_Host* host, QWidget* parent)
     : GUI_Dialog(parent, Qt::WindowFlags(), true)
@@ -42,7 +82,15 @@ GUI_SyncControl::GUI_SyncControl(APP_Host* host, QWidget* parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setWindowTitle(m_host->translate(QStringLiteral("p_synccontrol")));
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+
+    m_blinkTimer = new QTimer(this);
+    m_blinkTimer->setInterval(1000);
+    connect(m_blinkTimer, &QTimer::timeout, this, &GUI_SyncControl::on_blink);
     m_generator = new DOC_VIGen(host);
+
+    m_diagram = new SyncWiringDiagramWidget;
+    connect(m_diagram, &SyncWiringDiagramWidget::drawEevent, this,
+            &GUI_SyncControl::paintDiagram);
 }
 
 GUI_SyncControl::~GUI_SyncControl()
@@ -53,10 +101,13 @@ GUI_SyncControl::~GUI_SyncControl()
         m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, connected);
         if (m_generator)
             m_generator->disconnect();
+        clearDeviceTable();
     } catch (const std::exception& e) {
         m_host->reportException(e);
     }
     delete m_generator;
+    delete m_diagram;
+    delete m_blinkTimer;
     delete m_ui;
 }
 
@@ -66,24 +117,14 @@ int GUI_SyncControl::exec()
     UTL_Messages::setNativeStyle(m_host, this);
     m_ui->ok_button->setText(m_host->translate(QStringLiteral("Sync execute")));
     m_ui->cancel_button->setText(m_host->translate(QStringLiteral("Sync quit")));
-    m_ui->ok_button->setEnabled(m_syncPossible);
+    m_ui->signal_generator_control_checkBox->setText(
+        m_host->translate(QStringLiteral("Signal generator control")));
+    m_ui->trigger_sig_polarity_label->setText(
+        m_host->translate(QStringLiteral("Trigger Signal Polarity :")));
+    m_ui->connect_signal_generator_button->setText(
+        m_host->translate(QStringLiteral("Connect with signal generator")));
+    m_ui->frequency_label->setText(m_host->translate(QStringLiteral("Frequency :")));
     return QDialog::exec();
-}
-
-// The sync itself and the question on leaving come with the rest of the form.
-void GUI_SyncControl::on_cancel_button_clicked()
-{
-    logUserOperation(QStringLiteral("GUI_SyncControl"),
-                     QStringLiteral("GUI_SyncControl::on_cancel_button_clicked"),
-                     QStringLiteral("Button"), QStringLiteral("clicked"), QString());
-    reject();
-}
-
-void GUI_SyncControl::on_ok_button_clicked()
-{
-    logUserOperation(QStringLiteral("GUI_SyncControl"),
-                     QStringLiteral("GUI_SyncControl::on_ok_button_clicked"),
-                     QStringLiteral("Button"), QStringLiteral("clicked"), QString());
 }
 
 void GUI_SyncControl::init()
@@ -95,10 +136,10 @@ void GUI_SyncControl::init()
     m_cameras.clear();
     m_initializing = true;
     m_syncPossible = true;
+    stopBlinking();
 
     APP_DocumentList* documents = m_host;
-    const QList<int> keys = documents->documentKeys(0);
-    for (const int key : keys) {
+    for (const int key : documents->documentKeys(0)) {
         DOC_Interface* doc = documents->document(key, true);
         if (!doc)
             continue;
@@ -111,6 +152,7 @@ void GUI_SyncControl::init()
     checkSyncConditions();
 
     try {
+        m_ui->NRack_comboBox->setFocus(Qt::OtherFocusReason);
         guiInit();
         const bool tryConnect =
             m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, false);
@@ -136,7 +178,7 @@ void GUI_SyncControl::checkSyncConditions()
     if (m_cameras.size() < 2)
         refuse("Because there is only one camera, synchronization is not necessary.");
 
-    // Steps over the documents see every document's camera, not only the distinct ones.
+    // These steps see every document's camera, not only the distinct ones; dummies are skipped.
     APP_DocumentList* documents = m_host;
     QList<DOC_Camera*> documentCameras;
     for (const int key : documents->documentKeys(0)) {
@@ -194,24 +236,122 @@ void GUI_SyncControl::checkSyncConditions()
     m_timingFlagFirst = timingFlagFirst(m_triggerMode) ? 1 : 0;
 }
 
-// The form arrives in a later step; until then the run reads only what the model needs.
 void GUI_SyncControl::guiInit()
 {
     const QString function = QStringLiteral("GUI_SyncControl::guiInit");
     FunctionLogGuard::writeEnter(function, QString());
     const auto exit = exitFrame(this, function);
+    Ui_GUI_SyncControl& ui = *m_ui;
+    const auto tr = [this](const char* text) { return m_host->translate(QString::fromUtf8(text)); };
 
-    m_guiInitializing = true;
+    ui.NRack_comboBox->clear();
+    // An older version stored a bool, or its text.
     const QVariant stored = m_host->getPrefVariant(SyncKeys::PREF_KEY_SYNCCONTROL_NRACK, 0);
-    const bool oldBool = stored.type() == QVariant::Bool
+    const bool oldForm = stored.type() == QVariant::Bool
                          || (stored.type() == QVariant::String
                              && (stored.toString() == QLatin1String("true")
                                  || stored.toString() == QLatin1String("false")));
-    m_savedDistributor = oldBool ? (stored.toBool() ? 1 : 0) : stored.toInt();
-    m_savedExternal = m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_EXTERNAL, QVariant());
+    const int distributor = oldForm ? (stored.toBool() ? 1 : 0) : stored.toInt();
+    ui.NRack_label->setText(tr("Signal distributor"));
+    m_guiInitializing = true;
+
+    ui.NRack_comboBox->addItem(tr("Do Not Use"), 0);
+    ui.NRack_comboBox->addItem(tr("Use N-RACK"), 1);
+    ui.NRack_comboBox->addItem(tr("Use Link Core"), 2);
+    ui.NRack_comboBox->setCurrentIndex(std::max(distributor, 0));
+    m_savedDistributor = distributor;
+
+    const bool external = m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_EXTERNAL, QVariant());
+    if (external)
+        ui.sync_external_radio->setChecked(true);
+    else
+        ui.sync_chain_radio->setChecked(true);
+    ui.groupBox->setTitle(tr("Sync method selection"));
+    ui.sync_signal_label->setText(tr("Sync signal"));
+    ui.sync_external_radio->setText(tr("Synchronize with an external sync signal"));
+    ui.sync_external_label->setText(tr("(Includes sync signal from Link Core)"));
+    ui.sync_chain_radio->setText(tr("Synchronize with chain connection"));
+    ui.signal_generator_label->setText(tr("Signal generator"));
+    m_savedExternal = external;
+
+    ui.groupBox_2->setTitle(tr("Detail Setting"));
+    ui.masterCamera_label->setText(tr("Master camera settings:"));
+    ui.connect_signal_generator_label->setText(tr("Signal generator settings:"));
+
+    ui.masterCameras_comboBox->clear();
+    QString storedMaster;
+    m_host->getPrefString(storedMaster, SyncKeys::PREF_KEY_SYNCCONTROL_MASTER_CAMERA, QVariant());
+    int masterPosition = 0;
+    const QList<DOC_Camera*> candidates = masterCandidates(m_cameras);
+    for (int i = 0; i < candidates.size(); ++i) {
+        DOC_Camera* camera = candidates.at(i);
+        const QString address = camera->ipAddress(true);
+        ui.masterCameras_comboBox->addItem(
+            camera->cameraName(true) + QStringLiteral("(") + address + QStringLiteral(")"),
+            ipToNumber(address));
+        if (storedMaster == address)
+            masterPosition = i;
+    }
+    ui.masterCameras_comboBox->setCurrentIndex(masterPosition);
+    m_savedMaster = int(ui.masterCameras_comboBox->currentData().toUInt());
+
+    ui.signal_generator_control_checkBox->setChecked(
+        m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_CTRL, QVariant()));
+    m_savedGeneratorControl = ui.signal_generator_control_checkBox->isChecked();
+
+    const int frequency = m_host->getPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_FREQUENCY, 1000);
+    ui.frequency_comboBox->clear();
+    QList<int> frequencies;
+    m_generator->getFrequencyList(frequencies);
+    for (const int value : qAsConst(frequencies))
+        ui.frequency_comboBox->addItem(QString::number(value), QString::number(value));
+    ui.frequency_comboBox->setCurrentIndex(std::max(0, frequencies.indexOf(frequency)));
+    m_savedFrequency = ui.frequency_comboBox->currentText().toInt();
+
     QString address;
     m_generatorAddress =
         m_host->getPrefString(address, SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, QVariant());
+
+    const int syncIn = m_host->getPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_INPUT, 0);
+    ui.sync_in_comboBox->clear();
+    ui.sync_in_comboBox->addItem(QStringLiteral("ON CAM POS"), 0);
+    ui.sync_in_comboBox->addItem(QStringLiteral("ON OTHERS POS"), 1);
+    ui.sync_in_comboBox->setCurrentIndex(syncIn);
+    m_savedSyncIn = ui.sync_in_comboBox->currentData().toInt();
+
+    const int polarity =
+        m_host->getPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_TRIGGER_SIGNAL_POLARITY, 0);
+    ui.trigger_sig_polarity_comboBox->clear();
+    ui.trigger_sig_polarity_comboBox->addItem(QStringLiteral("TRIG POS"), 0);
+    ui.trigger_sig_polarity_comboBox->addItem(QStringLiteral("TRIG NEG"), 1);
+    ui.trigger_sig_polarity_comboBox->setCurrentIndex(polarity);
+    m_savedPolarity = ui.trigger_sig_polarity_comboBox->currentData().toInt();
+
+    ui.search_pushButton->setText(tr("SearchSetting"));
+    ui.connect_pushButton->setText(tr("Connect"));
+    ui.update_pushButton->setText(tr("Update"));
+
+    QStringList hubs;
+    static_cast<APP_LinkCoreManager*>(m_host)->addresses(hubs, true);
+    QTableWidget* table = ui.tableWidget;
+    table->clear();
+    table->setColumnCount(0);
+    table->setColumnCount(4);
+    table->setRowCount(hubs.size());
+    const int columnWidth = table->width() / 4;
+    for (int column = 0; column < 4; ++column)
+        table->setColumnWidth(column, columnWidth);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setHorizontalHeaderItem(0, new QTableWidgetItem(tr("IP address")));
+    table->setHorizontalHeaderItem(1, new QTableWidgetItem(tr("Sync Mode")));
+    table->setHorizontalHeaderItem(2, new QTableWidgetItem(tr("Frequency (Hz)")));
+    table->setHorizontalHeaderItem(3, new QTableWidgetItem(tr("Setting")));
+    table->horizontalHeader()->setStyleSheet(QStringLiteral(
+        "QHeaderView::section {background-color: #2C7CFF; color: white; border-style: inset; "
+        "border-color: #5D99FF; border-width:1px;}"));
+    table->horizontalHeader()->show();
+    table->verticalHeader()->hide();
+
     m_guiInitializing = false;
 }
 
@@ -225,11 +365,51 @@ void GUI_SyncControl::startHubManager()
     hubs->connectAll(3, true);
 }
 
+QString GUI_SyncControl::distributorName() const
+{
+    return m_ui->NRack_comboBox->currentIndex() == 2 ? QStringLiteral("Link Core")
+                                                     : QStringLiteral("N-RACK");
+}
+
 void GUI_SyncControl::guiUpdate()
 {
     if (m_initializing)
         return;
-    sortCameras(m_cameras, 0, m_savedExternal, m_timingFlagFirst);
+    Ui_GUI_SyncControl& ui = *m_ui;
+    const QString name = distributorName();
+    ui.sync_chain_label->setText(m_host->translate(
+        QStringLiteral("※When using %1 synchronize the CAM1 camera with the master").arg(name)));
+    ui.nrack_setting_label->setText(m_host->translate(QStringLiteral("%1 settings:").arg(name)));
+
+    delete m_diagram;
+    m_diagram = new SyncWiringDiagramWidget;
+    m_diagram->setUpdatesEnabled(false);
+    m_diagram->setObjectName(QStringLiteral("diagram"));
+    QPalette white = palette();
+    white.setBrush(QPalette::All, QPalette::Window, QBrush(Qt::white));
+    m_diagram->setPalette(white);
+    m_diagram->setAutoFillBackground(true);
+    connect(m_diagram, &SyncWiringDiagramWidget::drawEevent, this,
+            &GUI_SyncControl::paintDiagram);
+
+    if (ui.NRack_comboBox->currentIndex() == 2) {
+        ui.trigger_sig_polarity_comboBox->setCurrentIndex(1);
+        ui.trigger_sig_polarity_comboBox->setEnabled(false);
+    } else {
+        ui.trigger_sig_polarity_comboBox->setEnabled(true);
+    }
+
+    const bool external = ui.sync_external_radio->isChecked();
+    sortCameras(m_cameras, ui.masterCameras_comboBox->currentData().toUInt(), external,
+                m_timingFlagFirst);
+    ui.masterCameras_comboBox->setEnabled(!external);
+    ui.signal_generator_control_checkBox->setEnabled(external);
+    ui.frequency_comboBox->setEnabled(ui.signal_generator_control_checkBox->isChecked()
+                                      && external);
+    ui.sync_in_comboBox->setEnabled(external);
+
+    m_wiring.build(m_diagram, diagramChoices());
+    ui.syncScrollArea->setWidget(m_diagram);
 
     APP_DocumentList* documents = m_host;
     for (const int key : documents->documentKeys(0)) {
@@ -241,7 +421,340 @@ void GUI_SyncControl::guiUpdate()
         }
     }
     if (!m_syncPossible)
-        m_ui->ok_button->setEnabled(false);
+        ui.ok_button->setEnabled(false);
+
+    if (isVisible()) {
+        const bool pending = hasPendingChanges();
+        if (pending && m_syncPossible) {
+            m_blinkTimer->start();
+        } else if (!pending) {
+            m_blinkTimer->stop();
+            resetOkButtonStyle();
+        }
+    }
+    m_diagram->setUpdatesEnabled(true);
+
+    ui.connect_signal_generator_button->setVisible(m_generatorAvailable);
+    ui.connect_signal_generator_label->setVisible(m_generatorAvailable);
+
+    const bool generatorRow = !m_generatorAddress.isEmpty() && m_generatorAvailable && m_generator
+                              && m_generator->isConnected();
+    ui.signal_generator_label->setVisible(generatorRow);
+    ui.signal_generator_control_checkBox->setVisible(generatorRow);
+    ui.frequency_comboBox->setVisible(generatorRow);
+    ui.frequency_label->setVisible(generatorRow);
+    if (!generatorRow)
+        ui.signal_generator_control_checkBox->setChecked(false);
+
+    const bool hubs = ui.NRack_comboBox->currentData().toInt() == 2;
+    for (QWidget* widget : {static_cast<QWidget*>(ui.tableWidget),
+                            static_cast<QWidget*>(ui.nrack_setting_label),
+                            static_cast<QWidget*>(ui.search_pushButton),
+                            static_cast<QWidget*>(ui.connect_pushButton),
+                            static_cast<QWidget*>(ui.update_pushButton)})
+        widget->setVisible(hubs);
+    if (hubs) {
+        clearDeviceTable();
+        fillDeviceTable();
+    } else {
+        ui.sync_chain_label->setVisible(ui.NRack_comboBox->currentIndex() != 0);
+    }
+}
+
+SyncWiringDiagram::Choices GUI_SyncControl::diagramChoices()
+{
+    SyncWiringDiagram::Choices choices;
+    choices.cameras = m_cameras;
+    choices.external = m_ui->sync_external_radio->isChecked();
+    choices.distributor = m_ui->NRack_comboBox->currentData().toInt();
+    choices.master = m_ui->masterCameras_comboBox->currentData().toUInt();
+    choices.syncIn = m_ui->sync_in_comboBox->currentData().toInt();
+    choices.polarity = m_ui->trigger_sig_polarity_comboBox->currentData().toInt();
+    choices.distributorName = distributorName();
+    choices.connectedInternalHubs = [this] { return connectedInternalHubs(); };
+    choices.translate = [this](const QString& text) { return m_host->translate(text); };
+    return choices;
+}
+
+void GUI_SyncControl::paintDiagram()
+{
+    m_wiring.paint(m_diagram, diagramChoices());
+}
+
+int GUI_SyncControl::connectedInternalHubs()
+{
+    APP_LinkCoreManager* manager = m_host;
+    QStringList addresses;
+    manager->addresses(addresses, true);
+    int count = 0;
+    for (const QString& address : qAsConst(addresses)) {
+        try {
+            DOC_LinkCore* hub = manager->device(address);
+            if (hub && hub->isConnected() && hub->syncMode() == 0)
+                ++count;
+        } catch (const std::exception& e) {
+            m_host->reportException(e);
+        }
+    }
+    return count;
+}
+
+bool GUI_SyncControl::hasPendingChanges()
+{
+    const Ui_GUI_SyncControl& ui = *m_ui;
+    APP_CameraManager* cameras = m_host;
+    if (cameras->isSyncRequired())
+        return true;
+    if (ui.sync_external_radio->isChecked() != m_savedExternal)
+        return true;
+    if (ui.NRack_comboBox->currentData().toInt() != m_savedDistributor)
+        return true;
+    if (ui.frequency_comboBox->currentData().toInt() != m_savedFrequency)
+        return true;
+    if (ui.sync_in_comboBox->currentData().toInt() != m_savedSyncIn)
+        return true;
+    if (ui.trigger_sig_polarity_comboBox->currentData().toInt() != m_savedPolarity)
+        return true;
+    const int master = int(ui.masterCameras_comboBox->currentData().toUInt());
+    if (m_appliedMaster != -1) {
+        if (!ui.sync_external_radio->isChecked() && master != m_appliedMaster)
+            return true;
+    } else if (master != m_savedMaster) {
+        return true;
+    }
+    return static_cast<APP_LinkCoreManager*>(m_host)->hasUnappliedChanges();
+}
+
+void GUI_SyncControl::warnMasterConnector()
+{
+    if (m_guiInitializing)
+        return;
+    const int index = m_ui->NRack_comboBox->currentIndex();
+    if ((index != 1 && index != 2) || !m_ui->sync_chain_radio->isChecked())
+        return;
+    const QString text = m_host->translate(QStringLiteral(
+        "When connecting to %1, use the camera connected to the CAM 1 connector as the master"));
+    m_host->showWarning(text.arg(distributorName()), this);
+}
+
+void GUI_SyncControl::fillDeviceTable()
+{
+    APP_LinkCoreManager* manager = m_host;
+    QTableWidget* table = m_ui->tableWidget;
+    QStringList addresses;
+    manager->addresses(addresses, true);
+    table->setRowCount(addresses.size());
+    for (int row = 0; row < addresses.size(); ++row) {
+        const QString& address = addresses.at(row);
+        try {
+            DOC_LinkCore* hub = manager->device(address);
+            const bool connected = hub && hub->isConnected();
+            table->setItem(row, 0, hubItem(address, connected ? QColor(Qt::white) : HubGrey));
+            if (!connected) {
+                table->setItem(row, 1, hubItem(QString(), HubGrey));
+                table->setItem(row, 2, hubItem(QString(), HubGrey));
+                auto* button = new GUI_SyncControlButton(address, nullptr);
+                button->setText(m_host->translate(QStringLiteral("Edit")));
+                button->setFocusPolicy(Qt::TabFocus);
+                button->setEnabled(false);
+                connect(button, &GUI_SyncControlButton::signalClicked, this,
+                        &GUI_SyncControl::onEditPushButtonClicked);
+                table->setCellWidget(row, 3, button);
+                continue;
+            }
+            const int mode = hub->syncMode();
+            QList<int> frequencies;
+            hub->frequencies(frequencies);
+            table->setItem(row, 1, hubItem(hub->syncModeText(), Qt::white));
+            if (mode == 0) {
+                auto* combo =
+                    new GUI_SyncControlCombobox(address, frequencies, hub->frequency(), table);
+                combo->setStyleSheet(
+                    QStringLiteral("QComboBox { background-color: white; text-align:center;}"));
+                // Queued: the slot's guiUpdate deletes the sender.
+                connect(combo, &GUI_SyncControlCombobox::signalTextChanged, this,
+                        &GUI_SyncControl::onComboboxChanged, Qt::QueuedConnection);
+                table->setCellWidget(row, 2, combo);
+            } else {
+                table->setItem(row, 2, hubItem(QString(), HubGrey));
+            }
+            auto* button = new GUI_SyncControlButton(address, table);
+            button->setText(m_host->translate(QStringLiteral("Edit")));
+            button->setFocusPolicy(Qt::TabFocus);
+            connect(button, &GUI_SyncControlButton::signalClicked, this,
+                    &GUI_SyncControl::onEditPushButtonClicked);
+            table->setCellWidget(row, 3, button);
+        } catch (const std::exception& e) {
+            m_host->reportException(e);
+        }
+    }
+    table->setEditTriggers(QAbstractItemView::AnyKeyPressed);
+}
+
+void GUI_SyncControl::clearDeviceTable()
+{
+    QTableWidget* table = m_ui->tableWidget;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        if (auto* combo = qobject_cast<GUI_SyncControlCombobox*>(table->cellWidget(row, 2))) {
+            table->setCellWidget(row, 2, nullptr);
+            disconnect(combo, &GUI_SyncControlCombobox::signalTextChanged, this,
+                       &GUI_SyncControl::onComboboxChanged);
+            delete combo;
+        }
+        if (auto* button = qobject_cast<GUI_SyncControlButton*>(table->cellWidget(row, 3))) {
+            table->setCellWidget(row, 3, nullptr);
+            disconnect(button, &GUI_SyncControlButton::signalClicked, this,
+                       &GUI_SyncControl::onEditPushButtonClicked);
+            delete button;
+        }
+    }
+    table->setRowCount(0);
+}
+
+void GUI_SyncControl::setOkButtonBlink(bool on)
+{
+    QMutexLocker locker(&m_blinkMutex);
+    if (on)
+        m_ui->ok_button->setStyleSheet(QStringLiteral("background-color:coral;"));
+    else
+        m_ui->ok_button->setStyleSheet(QStringLiteral("QPushButton#")
+                                       + m_ui->ok_button->objectName());
+}
+
+void GUI_SyncControl::resetOkButtonStyle()
+{
+    setOkButtonBlink(false);
+}
+
+void GUI_SyncControl::stopBlinking()
+{
+    m_blinkTimer->stop();
+    setOkButtonBlink(false);
+}
+
+void GUI_SyncControl::on_blink()
+{
+    try {
+        SYNC_TRACE(QStringLiteral("GUI_SyncControl::on_blink"), QString());
+        m_blinkOn = !m_blinkOn;
+        setOkButtonBlink(m_blinkOn);
+    } catch (const std::exception& e) {
+        m_host->reportException(e);
+    }
+}
+
+void GUI_SyncControl::closeEvent(QCloseEvent* event)
+{
+    stopBlinking();
+    event->accept();
+}
+
+// The sync itself and the question on leaving come with the execution step.
+void GUI_SyncControl::on_cancel_button_clicked()
+{
+    logUserOperation(QStringLiteral("GUI_SyncControl"),
+                     QStringLiteral("GUI_SyncControl::on_cancel_button_clicked"),
+                     QStringLiteral("Button"), QStringLiteral("clicked"), QString());
+    stopBlinking();
+    reject();
+}
+
+void GUI_SyncControl::on_ok_button_clicked()
+{
+    logUserOperation(QStringLiteral("GUI_SyncControl"),
+                     QStringLiteral("GUI_SyncControl::on_ok_button_clicked"),
+                     QStringLiteral("Button"), QStringLiteral("clicked"), QString());
+}
+
+void GUI_SyncControl::on_connect_signal_generator_button_clicked()
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_connect_signal_generator_button_clicked"),
+              QString(), [] {});
+}
+
+void GUI_SyncControl::on_masterCameras_comboBox_currentIndexChanged(int index)
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_masterCameras_comboBox_currentIndexChanged"),
+              indexParameter(index), [] {});
+}
+
+void GUI_SyncControl::on_signal_generator_control_checkBox_clicked(bool checked)
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_signal_generator_control_checkBox_clicked"),
+              FunctionLogGuard::parameter(QStringLiteral("checked"), checked), [] {});
+}
+
+void GUI_SyncControl::on_sync_in_comboBox_currentIndexChanged(int index)
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_sync_in_comboBox_currentIndexChanged"),
+              indexParameter(index), [] {});
+}
+
+void GUI_SyncControl::on_trigger_sig_polarity_comboBox_currentIndexChanged(int index)
+{
+    slotFrame(
+        QStringLiteral("GUI_SyncControl::on_trigger_sig_polarity_comboBox_currentIndexChanged"),
+        indexParameter(index), [] {});
+}
+
+void GUI_SyncControl::on_NRack_comboBox_currentIndexChanged(int index)
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_NRack_comboBox_currentIndexChanged"),
+              indexParameter(index), [this] { warnMasterConnector(); });
+}
+
+void GUI_SyncControl::on_search_pushButton_clicked()
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_search_pushButton_clicked"), QString(), [this] {
+        GUI_SyncControlSearchSetting dialog(m_host, this);
+        if (dialog.exec() == QDialog::Accepted)
+            static_cast<APP_LinkCoreManager*>(m_host)->connectAll(3, true);
+    });
+}
+
+void GUI_SyncControl::on_connect_pushButton_clicked()
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_connect_pushButton_clicked"), QString(),
+              [this] { static_cast<APP_LinkCoreManager*>(m_host)->connectAll(3, true); });
+}
+
+void GUI_SyncControl::on_update_pushButton_clicked()
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_update_pushButton_clicked"), QString(), [] {});
+}
+
+void GUI_SyncControl::onEditPushButtonClicked(const QString& ipaddress)
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::onEditPushButtonClicked"),
+              FunctionLogGuard::parameter(QStringLiteral("ipaddress"), ipaddress), [&] {
+                  GUI_SyncControlSetting dialog(m_host, ipaddress, this);
+                  dialog.exec();
+              });
+}
+
+void GUI_SyncControl::onComboboxChanged(GUI_SyncControlCombobox* pComboBox,
+                                        const QString& ipaddress, int value)
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::onComboboxChanged"),
+              FunctionLogGuard::parameter(QStringLiteral("ipaddress"), ipaddress)
+                  + FunctionLogGuard::parameter(QStringLiteral("value"), value),
+              [&] {
+                  if (DOC_LinkCore* hub = static_cast<APP_LinkCoreManager*>(m_host)->device(ipaddress))
+                      hub->setFrequency(value);
+                  pComboBox->setValue(pComboBox->currentData().toInt());
+              });
+}
+
+void GUI_SyncControl::on_sync_external_radio_clicked()
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_sync_external_radio_clicked"), QString(),
+              [this] { warnMasterConnector(); });
+}
+
+void GUI_SyncControl::on_sync_chain_radio_clicked()
+{
+    slotFrame(QStringLiteral("GUI_SyncControl::on_sync_chain_radio_clicked"), QString(),
+              [this] { warnMasterConnector(); });
 }
 
 void GUI_SyncControl::keyPressEvent(QKeyEvent* event)
@@ -250,8 +763,17 @@ void GUI_SyncControl::keyPressEvent(QKeyEvent* event)
     // dropped.
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return;
-    for (QPushButton* button : {m_ui->ok_button, m_ui->cancel_button}) {
+    for (QPushButton* button : {m_ui->ok_button, m_ui->cancel_button, m_ui->update_pushButton,
+                                m_ui->search_pushButton, m_ui->connect_pushButton}) {
         if (button->hasFocus()) {
+            button->click();
+            return;
+        }
+    }
+    QTableWidget* table = m_ui->tableWidget;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        auto* button = qobject_cast<QPushButton*>(table->cellWidget(row, 3));
+        if (button && button->hasFocus()) {
             button->click();
             return;
         }

@@ -1,13 +1,18 @@
 #pragma once
 
+#include "sync/SyncWiringDiagram.h"
 #include "web/GUI_Dialog.h"
 
 #include <QList>
+#include <QMutex>
 #include <QString>
 
 class APP_Host;
 class DOC_Camera;
 class DOC_SignalGenerator;
+class GUI_SyncControlCombobox;
+class QTimer;
+class SyncWiringDiagramWidget;
 class Ui_GUI_SyncControl;
 
 // The modal dialog in which the user settles how all connected cameras are synchronised.
@@ -18,43 +23,78 @@ class GUI_SyncControl : public GUI_Dialog
     Q_OBJECT
 
 public:
-    static constexpr int FormWidth = 1340;
-    static constexpr int FormHeight = 654;
-
     GUI_SyncControl(APP_Host* host, QWidget* parent);
     ~GUI_SyncControl() override;
 
     // Throws the precondition failures; the dialog is then never shown.
     int exec() override;
 
-    // Brings form and diagram into line with the current choices.
+    // Brings form, diagram and hub table into line with the current choices.
     void guiUpdate();
+
+    // True while the form differs from what was last applied or loaded.
+    bool hasPendingChanges();
 
     // The cameras of the current run, in the order of the last sort.
     const QList<DOC_Camera*>& cameras() const { return m_cameras; }
     bool isSyncPossible() const { return m_syncPossible; }
-    int triggerMode() const { return m_triggerMode; }
-    int timingFlagFirstValue() const { return m_timingFlagFirst; }
+    SyncWiringDiagramWidget* diagram() const { return m_diagram; }
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private slots:
     void on_cancel_button_clicked();
     void on_ok_button_clicked();
+    void on_connect_signal_generator_button_clicked();
+    void paintDiagram();
+    void on_masterCameras_comboBox_currentIndexChanged(int index);
+    void on_blink();
+    void on_signal_generator_control_checkBox_clicked(bool checked);
+    void on_sync_in_comboBox_currentIndexChanged(int index);
+    void on_trigger_sig_polarity_comboBox_currentIndexChanged(int index);
+    void on_NRack_comboBox_currentIndexChanged(int index);
+    void on_search_pushButton_clicked();
+    void on_connect_pushButton_clicked();
+    void on_update_pushButton_clicked();
+    void onEditPushButtonClicked(const QString& ipaddress);
+    void onComboboxChanged(GUI_SyncControlCombobox* pComboBox, const QString& ipaddress,
+                           int value);
+    void on_sync_external_radio_clicked();
+    void on_sync_chain_radio_clicked();
 
 private:
     void init();
     void checkSyncConditions();
     void guiInit();
     void startHubManager();
+    void warnMasterConnector();
+    QString distributorName() const;
+    int connectedInternalHubs();
+    SyncWiringDiagram::Choices diagramChoices();
+    void rebuildDiagram();
+    void fillDeviceTable();
+    void clearDeviceTable();
+    void setOkButtonBlink(bool on);
+    void resetOkButtonStyle();
+    void stopBlinking();
+    // Runs a slot body in the common frame: entry line, report of a std::exception, then the
+    // exit line and a guiUpdate whatever happened.
+    template <typename Body>
+    void slotFrame(const QString& function, const QString& parameters, Body body);
 
     Ui_GUI_SyncControl* m_ui;
     APP_Host* m_host;
     int m_triggerMode = 0;
     QList<DOC_Camera*> m_cameras;
+    SyncWiringDiagramWidget* m_diagram = nullptr;
     int m_timingFlagFirst = 0;
     bool m_syncPossible = true;
+    QTimer* m_blinkTimer = nullptr;
+    QMutex m_blinkMutex;
+    bool m_blinkOn = false;
+    SyncWiringDiagram m_wiring;
     int m_savedDistributor = 0;
     bool m_savedExternal = false;
     int m_appliedMaster = -1;
