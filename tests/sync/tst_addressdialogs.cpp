@@ -1,0 +1,356 @@
+#include "host/HST_Host.h"
+#include "host/HST_Recorder.h"
+#include "host/HST_Scenario.h"
+#include "sync/GUI_SyncControlSearchSetting.h"
+#include "sync/GUI_SyncControlSetting.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+#include <memory>
+
+Q_DECLARE_METATYPE(QDialogButtonBox::StandardButton)
+
+namespace {
+
+const char hubsJson[] = R"({"hubs": [
+    {"ip": "10.0.0.1", "firmware": "2.1.0"},
+    {"ip": "10.0.0.2", "changeAddress": {"result": "error", "message": "Refused.", "delayMs": 300}},
+    {"ip": "10.0.0.3"}]})";
+
+QStringList fieldTexts(QDialog* dialog)
+{
+    QStringList texts;
+    for (int i = 1; i <= 4; ++i)
+        texts << dialog->findChild<QLineEdit*>(QStringLiteral("ipLineEdit%1").arg(i))->text();
+    return texts;
+}
+
+// Types as a user would, or pastes a text marked "paste:", so the validators have their say;
+// an empty list keeps the fields.
+void typeOctets(QDialog* dialog, const QStringList& octets)
+{
+    for (int i = 0; i < octets.size(); ++i) {
+        auto* field = dialog->findChild<QLineEdit*>(QStringLiteral("ipLineEdit%1").arg(i + 1));
+        field->clear();
+        QString text = octets.at(i);
+        if (text.startsWith(QLatin1String("paste:")))
+            field->insert(text.mid(6));
+        else
+            QTest::keyClicks(field, text);
+    }
+}
+
+QPushButton* boxButton(QDialog* dialog, QDialogButtonBox::StandardButton which)
+{
+    return dialog->findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(which);
+}
+
+QStringList tableTexts(QDialog* dialog)
+{
+    auto* table = dialog->findChild<QTableWidget*>(QStringLiteral("tableWidget"));
+    QStringList texts;
+    for (int row = 0; row < table->rowCount(); ++row)
+        texts << table->item(row, 0)->text();
+    return texts;
+}
+
+} // namespace
+
+class tst_AddressDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void formsStartFromTheHost();
+    void addAddress_data();
+    void addAddress();
+    void deleteAddresses_data();
+    void deleteAddresses();
+    void searchListKeptOrDropped_data();
+    void searchListKeptOrDropped();
+    void changeAddress_data();
+    void changeAddress();
+
+private:
+    QStringList hostAddresses();
+    QList<QJsonObject> linkCoreCalls(const QString& op);
+    QStringList shown(const QString& call);
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<HST_Recorder> m_recorder;
+    std::unique_ptr<HST_Host> m_host;
+    QTimer m_answerer;
+    bool m_sawBusyDialog = false;
+};
+
+void tst_AddressDialogs::init()
+{
+    m_dir.reset(new QTemporaryDir);
+    m_recorder.reset(new HST_Recorder);
+    HST_Scenario scenario;
+    QString error;
+    QVERIFY2(HST_Scenario::fromJson(hubsJson, QStringLiteral("test"), scenario, error),
+        qPrintable(error));
+    m_host.reset(
+        new HST_Host(scenario, m_recorder.get(), m_dir->filePath(QStringLiteral("p.ini"))));
+    // Every message box is answered; the busy dialog can only be watched.
+    m_sawBusyDialog = false;
+    m_answerer.setInterval(10);
+    connect(&m_answerer, &QTimer::timeout, this, [this] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (auto* box = qobject_cast<QMessageBox*>(modal))
+            box->button(QMessageBox::Ok)->click();
+        else if (qobject_cast<QProgressDialog*>(modal))
+            m_sawBusyDialog = true;
+    });
+    m_answerer.start();
+}
+
+void tst_AddressDialogs::cleanup()
+{
+    m_answerer.stop();
+    m_answerer.disconnect();
+    m_host.reset();
+    m_recorder.reset();
+    m_dir.reset();
+}
+
+QStringList tst_AddressDialogs::hostAddresses()
+{
+    QStringList list;
+    m_host->addresses(list, true);
+    return list;
+}
+
+QList<QJsonObject> tst_AddressDialogs::linkCoreCalls(const QString& op)
+{
+    QList<QJsonObject> calls;
+    for (const QJsonObject& event : m_recorder->events(QStringLiteral("linkCore"))) {
+        if (event.value(QStringLiteral("op")).toString() == op)
+            calls.append(event);
+    }
+    return calls;
+}
+
+// Texts of the message boxes ("message") or reported exceptions ("reportException").
+QStringList tst_AddressDialogs::shown(const QString& call)
+{
+    QStringList texts;
+    for (const QJsonObject& event : m_recorder->events(call))
+        texts << event.value(QStringLiteral("text")).toString();
+    return texts;
+}
+
+void tst_AddressDialogs::formsStartFromTheHost()
+{
+    m_host->addSearchAddress(QStringLiteral("10.0.0.4"));
+    GUI_SyncControlSearchSetting search(m_host.get(), nullptr);
+    QCOMPARE(search.size(), QSize(360, 265));
+    QCOMPARE(search.minimumSize(), search.maximumSize());
+    QCOMPARE(search.windowTitle(), QStringLiteral("SearchSetting"));
+    QCOMPARE(fieldTexts(&search), QStringList({ "192", "168", "0", "100" }));
+    QCOMPARE(tableTexts(&search), hostAddresses());
+    QCOMPARE(search.findChild<QTableWidget*>()->horizontalHeaderItem(0)->text(),
+        QStringLiteral("IP address"));
+
+    GUI_SyncControlSetting known(m_host.get(), QStringLiteral("10.0.0.1"), nullptr);
+    QCOMPARE(known.size(), QSize(386, 209));
+    QCOMPARE(fieldTexts(&known), QStringList({ "10", "0", "0", "1" }));
+    QCOMPARE(
+        known.findChild<QLabel*>(QStringLiteral("version_label"))->text(), QStringLiteral("2.1.0"));
+
+    GUI_SyncControlSetting notAnAddress(m_host.get(), QStringLiteral("hub-1"), nullptr);
+    QCOMPARE(fieldTexts(&notAnAddress), QStringList({ "", "", "", "" }));
+    QCOMPARE(notAnAddress.findChild<QLabel*>(QStringLiteral("version_label"))->text(),
+        QStringLiteral("0.0.0"));
+}
+
+void tst_AddressDialogs::addAddress_data()
+{
+    QTest::addColumn<QStringList>("typed");
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<QStringList>("expected");
+
+    const QStringList start { "10.0.0.1", "10.0.0.2", "10.0.0.3" };
+    QTest::newRow("address added at the end") << QStringList { "192", "168", "0",
+        "7" } << "192.168.0.7" << start + QStringList { "192.168.0.7" };
+    QTest::newRow("octet above 255 cannot be typed") << QStringList { "10", "300", "0",
+        "256" } << "10.30.0.25" << start + QStringList { "10.30.0.25" };
+    QTest::newRow("pasted octet above 255 stays out, so the address is refused")
+        << QStringList { "10", "paste:300", "0", "1" } << QString() << start;
+    QTest::newRow("letters cannot be typed")
+        << QStringList { "1a", "2", "3", "4" } << "1.2.3.4" << start + QStringList { "1.2.3.4" };
+    QTest::newRow("listed address still goes to the host")
+        << QStringList { "10", "0", "0", "2" } << "10.0.0.2" << start;
+    QTest::newRow("empty octet refused")
+        << QStringList { "10", "0", "", "9" } << QString() << start;
+}
+
+void tst_AddressDialogs::addAddress()
+{
+    QFETCH(QStringList, typed);
+    QFETCH(QString, sent);
+    QFETCH(QStringList, expected);
+    GUI_SyncControlSearchSetting dialog(m_host.get(), nullptr);
+    dialog.show();
+    typeOctets(&dialog, typed);
+    dialog.findChild<QPushButton*>(QStringLiteral("addButton"))->click();
+
+    const QList<QJsonObject> calls = linkCoreCalls(QStringLiteral("addSearchAddress"));
+    QCOMPARE(calls.size(), sent.isEmpty() ? 0 : 1);
+    if (!sent.isEmpty())
+        QCOMPARE(calls.first().value(QStringLiteral("ip")).toString(), sent);
+    QCOMPARE(shown(QStringLiteral("message")),
+        sent.isEmpty() ? QStringList { "Input IPAddress" } : QStringList());
+    QCOMPARE(hostAddresses(), expected);
+    QCOMPARE(tableTexts(&dialog), expected);
+    QVERIFY(dialog.isVisible());
+}
+
+void tst_AddressDialogs::deleteAddresses_data()
+{
+    QTest::addColumn<QList<int>>("selectedRows");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("nothing selected only reloads")
+        << QList<int>() << QStringList { "10.0.0.1", "10.0.0.2", "10.0.0.3" };
+    QTest::newRow("every selected row goes") << QList<int> { 0, 2 } << QStringList { "10.0.0.2" };
+}
+
+void tst_AddressDialogs::deleteAddresses()
+{
+    QFETCH(QList<int>, selectedRows);
+    QFETCH(QStringList, expected);
+    GUI_SyncControlSearchSetting dialog(m_host.get(), nullptr);
+    dialog.show();
+    auto* table = dialog.findChild<QTableWidget*>();
+    for (int row : selectedRows)
+        table->selectRow(row);
+    dialog.findChild<QPushButton*>(QStringLiteral("deleteButton"))->click();
+
+    QCOMPARE(linkCoreCalls(QStringLiteral("removeSearchAddress")).size(), selectedRows.size());
+    QCOMPARE(hostAddresses(), expected);
+    QCOMPARE(tableTexts(&dialog), expected);
+}
+
+void tst_AddressDialogs::searchListKeptOrDropped_data()
+{
+    QTest::addColumn<QDialogButtonBox::StandardButton>("button");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QString>("logged");
+
+    QTest::newRow("Ok keeps the edits")
+        << QDialogButtonBox::Ok << int(QDialog::Accepted)
+        << QStringList { "10.0.0.2", "10.0.0.3", "10.1.1.1", "10.1.1.2" }
+        << "GUI_SyncControlSearchSetting::okClicked";
+    QTest::newRow("Cancel leaves the list as it was")
+        << QDialogButtonBox::Cancel << int(QDialog::Rejected)
+        << QStringList { "10.0.0.1", "10.0.0.2", "10.0.0.3" }
+        << "GUI_SyncControlSearchSetting::cancelClicked";
+}
+
+void tst_AddressDialogs::searchListKeptOrDropped()
+{
+    QFETCH(QDialogButtonBox::StandardButton, button);
+    QFETCH(int, result);
+    QFETCH(QStringList, expected);
+    QFETCH(QString, logged);
+    GUI_SyncControlSearchSetting dialog(m_host.get(), nullptr);
+    QTimer::singleShot(0, &dialog, [&] {
+        for (const char* last : { "1", "2" }) {
+            typeOctets(&dialog, { "10", "1", "1", last });
+            dialog.findChild<QPushButton*>(QStringLiteral("addButton"))->click();
+        }
+        dialog.findChild<QTableWidget*>()->selectRow(0);
+        dialog.findChild<QPushButton*>(QStringLiteral("deleteButton"))->click();
+        boxButton(&dialog, button)->click();
+    });
+    QCOMPARE(dialog.exec(), result);
+    QCOMPARE(hostAddresses(), expected);
+    bool found = false;
+    for (const QJsonObject& event : m_recorder->events(QStringLiteral("log"))) {
+        const QString text = event.value(QStringLiteral("text")).toString();
+        found = found || (text.contains(QStringLiteral("[USER]")) && text.contains(logged));
+    }
+    QVERIFY2(found, qPrintable(logged));
+}
+
+void tst_AddressDialogs::changeAddress_data()
+{
+    QTest::addColumn<QString>("hub");
+    QTest::addColumn<QStringList>("typed");
+    QTest::addColumn<QDialogButtonBox::StandardButton>("button");
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QStringList>("expected");
+
+    const QStringList start { "10.0.0.1", "10.0.0.2", "10.0.0.3" };
+    QTest::newRow("new address written")
+        << "10.0.0.1" << QStringList { "10", "0", "0", "9" } << QDialogButtonBox::Ok << "10.0.0.9"
+        << QString() << QStringList { "10.0.0.9", "10.0.0.2", "10.0.0.3" };
+    QTest::newRow("unchanged address still sent")
+        << "10.0.0.1" << QStringList() << QDialogButtonBox::Ok << "10.0.0.1" << QString() << start;
+    QTest::newRow("slow refusal reported, nothing changes")
+        << "10.0.0.2" << QStringList { "10", "0", "0", "9" } << QDialogButtonBox::Ok << "10.0.0.9"
+        << "Refused." << start;
+    QTest::newRow("address in use reported")
+        << "10.0.0.1" << QStringList { "10", "0", "0", "3" } << QDialogButtonBox::Ok << "10.0.0.3"
+        << "The address 10.0.0.3 is already in use." << start;
+    QTest::newRow("empty octet refused, nothing sent")
+        << "10.0.0.1" << QStringList { "10", "0", "", "9" } << QDialogButtonBox::Ok << QString()
+        << "Input IPAddress" << start;
+    QTest::newRow("Cancel sends nothing")
+        << "10.0.0.1" << QStringList { "10", "0", "0", "9" } << QDialogButtonBox::Cancel
+        << QString() << QString() << start;
+}
+
+void tst_AddressDialogs::changeAddress()
+{
+    QFETCH(QString, hub);
+    QFETCH(QStringList, typed);
+    QFETCH(QDialogButtonBox::StandardButton, button);
+    QFETCH(QString, sent);
+    QFETCH(QString, error);
+    QFETCH(QStringList, expected);
+    GUI_SyncControlSetting dialog(m_host.get(), hub, nullptr);
+    QTimer::singleShot(0, &dialog, [&] {
+        typeOctets(&dialog, typed);
+        boxButton(&dialog, button)->click();
+    });
+    // The click has ended the dialog before the slot runs, so the result is the button's.
+    QCOMPARE(
+        dialog.exec(), int(button == QDialogButtonBox::Ok ? QDialog::Accepted : QDialog::Rejected));
+
+    const QList<QJsonObject> calls = linkCoreCalls(QStringLiteral("changeAddress"));
+    QCOMPARE(calls.size(), sent.isEmpty() ? 0 : 1);
+    QCOMPARE(m_recorder->events(QStringLiteral("busy")).size(), calls.size());
+    if (!sent.isEmpty()) {
+        QCOMPARE(calls.first().value(QStringLiteral("old")).toString(), hub);
+        QCOMPARE(calls.first().value(QStringLiteral("new")).toString(), sent);
+        QCOMPARE(m_recorder->events(QStringLiteral("busy")).first().value("text").toString(),
+            QStringLiteral("Reflecting"));
+    }
+    const bool refusedByHost = !sent.isEmpty() && !error.isEmpty();
+    QCOMPARE(shown(QStringLiteral("reportException")),
+        refusedByHost ? QStringList { error } : QStringList());
+    QCOMPARE(shown(QStringLiteral("message")),
+        sent.isEmpty() && !error.isEmpty() ? QStringList { error } : QStringList());
+    if (QTest::currentDataTag() == QByteArray("slow refusal reported, nothing changes"))
+        QVERIFY(m_sawBusyDialog);
+    QCOMPARE(hostAddresses(), expected);
+}
+
+QTEST_MAIN(tst_AddressDialogs)
+#include "tst_addressdialogs.moc"
