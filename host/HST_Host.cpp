@@ -59,6 +59,7 @@ QString boxTitle(QMessageBox::Icon icon)
 static void initResources()
 {
     Q_INIT_RESOURCE(tarvixhost);
+    Q_INIT_RESOURCE(tarvixweb);
 }
 
 HST_Host::HST_Host(

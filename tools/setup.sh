@@ -14,3 +14,10 @@ if [ "${#missing[@]}" -gt 0 ]; then
     apt-get update -q
     apt-get install -y -q --no-install-recommends "${missing[@]}"
 fi
+
+# The reference host's page libraries, from the committed lock file (host/web).
+web="$here/../host/web"
+if [ ! -d "$web/node_modules" ]; then
+    echo "setup: npm ci in host/web"
+    (cd "$web" && npm ci --no-audit --no-fund)
+fi
