@@ -60,6 +60,7 @@ static void initResources()
 {
     Q_INIT_RESOURCE(tarvixhost);
     Q_INIT_RESOURCE(tarvixweb);
+    Q_INIT_RESOURCE(tarvixdevices);
 }
 
 HST_Host::HST_Host(
