@@ -16,6 +16,8 @@ private slots:
     void statesFollowChoices();
     void preferencesAtStart_data();
     void preferencesAtStart();
+    void blinksWhilePending_data();
+    void blinksWhilePending();
 
 private:
     static void act(QDialog* dialog, const QString& action);
@@ -198,6 +200,44 @@ void tst_SyncForm::preferencesAtStart()
     });
     QCOMPARE(code, 0);
     QCOMPARE(seen, expected);
+}
+
+void tst_SyncForm::blinksWhilePending_data()
+{
+    QTest::addColumn<QString>("cameras");
+    QTest::addColumn<QStringList>("actions");
+    QTest::addColumn<bool>("blinks");
+    QTest::newRow("unchanged form stays plain") << TwoCameras << QStringList{} << false;
+    QTest::newRow("a changed distributor blinks") << TwoCameras << QStringList{"NRack_comboBox=1"}
+                                                  << true;
+    QTest::newRow("cameras that moved away from the last sync blink")
+        << QStringLiteral("{\"ip\": \"10.0.0.1\", \"type\": 1, \"syncRequired\": true}, "
+                          "{\"ip\": \"10.0.0.2\", \"type\": 1}")
+        << QStringList{"update_pushButton"} << true;
+    QTest::newRow("nothing blinks while a sync is impossible")
+        << TwoCameras + QStringLiteral(", {\"ip\": \"10.0.0.9\", \"dummy\": true}")
+        << QStringList{"NRack_comboBox=1"} << false;
+}
+
+void tst_SyncForm::blinksWhilePending()
+{
+    QFETCH(QString, cameras);
+    QFETCH(QStringList, actions);
+    QFETCH(bool, blinks);
+    bool sawCoral = false;
+    const int code = runSyncDialog(scenario(cameras), [&](QDialog* dialog) {
+        for (const QString& action : actions)
+            act(dialog, action);
+        auto* ok = dialog->findChild<QWidget*>(QStringLiteral("ok_button"));
+        QElapsedTimer waited;
+        waited.start();
+        while (!sawCoral && waited.elapsed() < 2500) {
+            QTest::qWait(50);
+            sawCoral = ok->styleSheet().contains(QLatin1String("coral"));
+        }
+    });
+    QCOMPARE(code, 0);
+    QCOMPARE(sawCoral, blinks);
 }
 
 QTEST_MAIN(tst_SyncForm)
