@@ -1,5 +1,6 @@
 #include "host/HST_Application.h"
 
+#include "host/HST_GeneratorSimulator.h"
 #include "host/HST_Host.h"
 #include "host/HST_MainWindow.h"
 #include "host/HST_PluginLoader.h"
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QLibrary>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -76,8 +78,10 @@ bool HST_Application::parseArguments(
         QStringLiteral("Save the active window at the end."), QStringLiteral("FILE"));
     const QCommandLineOption quit(QStringLiteral("quit"),
         QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
-    parser.addOptions(
-        { scenario, plugin, prefs, translations, press, script, answer, record, screenshot, quit });
+    const QCommandLineOption openConnect(QStringLiteral("open-connect-dialog"),
+        QStringLiteral("Run the plug-in's generator connect dialog once the window shows."));
+    parser.addOptions({ scenario, plugin, prefs, translations, press, script, answer, record,
+        screenshot, quit, openConnect });
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return false;
@@ -102,6 +106,7 @@ bool HST_Application::parseArguments(
     options.recordFile = parser.value(record);
     options.screenshotFile = parser.value(screenshot);
     options.quit = parser.isSet(quit);
+    options.openConnectDialog = parser.isSet(openConnect);
     return true;
 }
 
@@ -120,13 +125,15 @@ HST_Application::~HST_Application()
         m_loader->release();
     m_window.reset();
     m_host.reset();
+    m_generator.reset();
     m_recorder.reset();
 }
 
 bool HST_Application::isInteractive() const
 {
     return m_options.press.isEmpty() && m_options.scriptFile.isEmpty() && m_options.steps.isEmpty()
-        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit;
+        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit
+        && !m_options.openConnectDialog;
 }
 
 PLG_Interface* HST_Application::plugin() const
@@ -187,9 +194,19 @@ int HST_Application::start()
         && !m_host->loadTranslations(m_options.translationsFile, problem))
         return refuse(BadInput, problem);
 
+    if (scenario.hasGenerator) {
+        m_generator.reset(new HST_GeneratorSimulator);
+        if (!m_generator->start(scenario.generator, problem))
+            return refuse(BadInput, problem);
+        printLine(stdout,
+            QStringLiteral("generator at %1, portmapper port %2")
+                .arg(m_generator->address())
+                .arg(m_generator->portmapperPort()));
+    }
+
     // The plug-in looks for the VISA library by this variable; a path that can't exist hides it.
     const QByteArray notOffered = QByteArrayLiteral("/nonexistent/visa-not-offered");
-    if (!scenario.visa)
+    if (!scenario.visa && !scenario.hasGenerator)
         qputenv(visaLibraryVariable(), notOffered);
 #ifdef HST_VISA_LIBRARY_FILE
     else if (qgetenv(visaLibraryVariable()).isEmpty()
@@ -202,7 +219,8 @@ int HST_Application::start()
     m_script.reset(new HST_ScriptRunner(m_recorder.get()));
     m_script->setSteps(steps);
     m_script->setStepTimeout(m_options.stepTimeoutMs);
-    m_script->setIdleWindow(m_window.get(), [this] { return m_window->isPluginRunning(); });
+    m_script->setIdleWindow(
+        m_window.get(), [this] { return m_window->isPluginRunning() || !m_pressDone; });
     connect(m_script.get(), &HST_ScriptRunner::finished, this, &HST_Application::checkFinished,
         Qt::QueuedConnection);
     connect(m_window.get(), &HST_MainWindow::executeFinished, this, &HST_Application::checkFinished,
@@ -214,6 +232,11 @@ int HST_Application::start()
     if (!m_loader->load(m_host.get(), problem))
         return refuse(PluginFailed, problem);
     m_window->addPlugin(m_loader->plugin());
+    if (m_options.openConnectDialog
+        && !QLibrary(pluginFile).resolve("synccontrolOpenGeneratorConnect"))
+        return refuse(PluginFailed,
+            QStringLiteral("%1: no synccontrolOpenGeneratorConnect for --open-connect-dialog")
+                .arg(pluginFile));
     m_started = true;
     m_recorder->record(QStringLiteral("start"),
         { { QStringLiteral("plugin"), pluginFile }, { QStringLiteral("name"), m_loader->name() },
@@ -249,7 +272,22 @@ void HST_Application::afterShow()
         m_window->press(m_options.press);
         m_pressDone = true;
     }
+    if (m_options.openConnectDialog && m_started)
+        openConnectDialog();
     checkFinished();
+}
+
+void HST_Application::openConnectDialog()
+{
+    using Entry = int (*)(APP_Host*, QWidget*);
+    const auto entry = reinterpret_cast<Entry>(
+        QLibrary(m_loader->path()).resolve("synccontrolOpenGeneratorConnect"));
+    m_recorder->record(QStringLiteral("connectDialog"), { { QStringLiteral("phase"), "begin" } });
+    m_pressDone = false;
+    const int result = entry(m_host.get(), m_window.get());
+    m_pressDone = true;
+    m_recorder->record(QStringLiteral("connectDialog"),
+        { { QStringLiteral("phase"), "end" }, { QStringLiteral("result"), result } });
 }
 
 void HST_Application::checkFinished()

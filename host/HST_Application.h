@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class HST_GeneratorSimulator;
 class HST_Host;
 class HST_MainWindow;
 class HST_PluginLoader;
@@ -32,6 +33,9 @@ struct HST_Options
     QString recordFile;
     QString screenshotFile;
     bool quit = false;
+    // Run the plug-in's generator connect dialog once the window shows, as the sync dialog's
+    // button will (a test entry of the plug-in file).
+    bool openConnectDialog = false;
     // --help: parseArguments leaves the help text in its error and gives true.
     bool help = false;
     int stepTimeoutMs = 10000;
@@ -82,6 +86,7 @@ private slots:
 
 private:
     int refuse(int code, const QString& message);
+    void openConnectDialog();
     void finish(int code);
     void saveScreenshot();
 
@@ -92,6 +97,7 @@ private:
     std::unique_ptr<HST_MainWindow> m_window;
     std::unique_ptr<HST_PluginLoader> m_loader;
     std::unique_ptr<HST_ScriptRunner> m_script;
+    std::unique_ptr<HST_GeneratorSimulator> m_generator;
     QEventLoop m_loop;
     bool m_started = false;
     bool m_pressDone = true;

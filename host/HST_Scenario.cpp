@@ -205,7 +205,8 @@ HST_HubSpec readHub(const QJsonValue& value, const QString& name, int index)
         wrongType(name, "an object", value);
     const QJsonObject object = value.toObject();
     checkKeys(object, name,
-        { "ip", "firmware", "syncMode", "frequency", "frequencies", "state", "changeAddress" });
+        { "ip", "firmware", "syncMode", "frequency", "frequencies", "state", "connectsOn",
+            "changeAddress" });
     HST_HubSpec hub;
     hub.ip = readString(
         object, name, QStringLiteral("ip"), QStringLiteral("192.168.0.%1").arg(200 + index));
@@ -221,7 +222,21 @@ HST_HubSpec readHub(const QJsonValue& value, const QString& name, int index)
     if (state != QLatin1String("connected") && state != QLatin1String("disconnected"))
         refuse(join(name, QStringLiteral("state")),
             QStringLiteral("\"%1\" is neither \"connected\" nor \"disconnected\"").arg(state));
-    hub.connected = state == QLatin1String("connected");
+    // "state" is the older spelling of "start" and "never"; both at once could contradict.
+    if (object.contains(QLatin1String("state")) && object.contains(QLatin1String("connectsOn")))
+        refuse(join(name, QStringLiteral("connectsOn")), QStringLiteral("give \"state\" or this, not both"));
+    const QString connectsOn = readString(object, name, QStringLiteral("connectsOn"),
+        state == QLatin1String("connected") ? QStringLiteral("start") : QStringLiteral("never"));
+    if (connectsOn == QLatin1String("start"))
+        hub.connects = HST_HubConnects::AtStart;
+    else if (connectsOn == QLatin1String("connect"))
+        hub.connects = HST_HubConnects::OnConnect;
+    else if (connectsOn == QLatin1String("never"))
+        hub.connects = HST_HubConnects::Never;
+    else
+        refuse(join(name, QStringLiteral("connectsOn")),
+            QStringLiteral("\"%1\" is not \"start\", \"connect\" or \"never\"").arg(connectsOn));
+    hub.connected = hub.connects == HST_HubConnects::AtStart;
     hub.changeAddress = readOutcome(object, name, QStringLiteral("changeAddress"));
     return hub;
 }
@@ -286,8 +301,34 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     }
     out.applySync = readOutcome(root, QString(), QStringLiteral("applySync"));
     out.visa = readBool(root, QString(), QStringLiteral("visa"), false);
-    if (root.contains(QLatin1String("generator")))
-        out.generator = readObject(root, QString(), QStringLiteral("generator"));
+    if (root.contains(QLatin1String("generator"))) {
+        const QString path = QStringLiteral("generator");
+        const QJsonObject generator = readObject(root, QString(), path);
+        checkKeys(generator, path,
+            { "listen", "portmapperPort", "model", "maker", "serial", "delayMs", "silentAt",
+                "dropMidReply", "garbage", "maxLinks", "log" });
+        // Tests send traffic to loopback only.
+        const QString listen
+            = readString(generator, path, QStringLiteral("listen"), QStringLiteral("127.0.0.1"));
+        if (!QRegularExpression(QStringLiteral("^127\\.\\d{1,3}\\.\\d{1,3}\\.\\d{1,3}$"))
+                 .match(listen)
+                 .hasMatch())
+            refuse(join(path, QStringLiteral("listen")), QStringLiteral("not a 127.x.x.x address"));
+        readInt(generator, path, QStringLiteral("portmapperPort"), 0, 1, 65535);
+        for (const char* key : { "model", "maker", "serial", "log" })
+            readString(generator, path, QLatin1String(key), QString());
+        readInt(generator, path, QStringLiteral("delayMs"), 0, 0, 600000);
+        readInt(generator, path, QStringLiteral("maxLinks"), 16, 1, 1000);
+        const QString silentAt = readString(generator, path, QStringLiteral("silentAt"), QString());
+        if (!silentAt.isEmpty()
+            && !QStringList { "portmapper", "create_link", "device_read" }.contains(silentAt))
+            refuse(join(path, QStringLiteral("silentAt")),
+                QStringLiteral("not portmapper, create_link or device_read"));
+        readBool(generator, path, QStringLiteral("dropMidReply"), false);
+        readBool(generator, path, QStringLiteral("garbage"), false);
+        out.hasGenerator = true;
+        out.generator = generator;
+    }
     if (root.contains(QLatin1String("faults"))) {
         const QJsonObject faults = readObject(root, QString(), QStringLiteral("faults"));
         checkKeys(faults, QStringLiteral("faults"),

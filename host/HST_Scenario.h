@@ -34,6 +34,9 @@ struct HST_CameraSpec
     bool syncRequired = false;
 };
 
+// When a hub answers: from the host's start, from the first connectAll, or never.
+enum class HST_HubConnects { AtStart, OnConnect, Never };
+
 struct HST_HubSpec
 {
     QString ip;
@@ -41,6 +44,8 @@ struct HST_HubSpec
     int syncMode = 0;
     int frequency = 1000;
     QList<int> frequencies;
+    HST_HubConnects connects = HST_HubConnects::AtStart;
+    // The hub's state now; follows connects.
     bool connected = true;
     HST_Outcome changeAddress;
 };
@@ -58,6 +63,8 @@ public:
     QVariantMap prefs;
     HST_Outcome applySync;
     bool visa = false;
+    // The simulated signal generator the host starts (HST_GeneratorSimulator); checked keys.
+    bool hasGenerator = false;
     QJsonObject generator;
     // Test hook: host operation -> message of the APP_Exception it throws.
     QMap<QString, QString> faults;
