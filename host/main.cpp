@@ -1,6 +1,7 @@
 #include "host/HST_Application.h"
 
 #include <QApplication>
+#include <QFont>
 
 #include <cstdio>
 #include <cstring>
@@ -25,6 +26,9 @@ int main(int argc, char* argv[])
     qtArguments.push_back(nullptr);
     QApplication application(qtArgc, qtArguments.data());
     QApplication::setApplicationName(QStringLiteral("tarvix4host"));
+    // The plug-in's dialogs have fixed geometry made for the compact UI font of the viewer's
+    // platform; an Arial-metric 8 pt font keeps their texts inside their boxes here too.
+    QApplication::setFont(QFont(QStringLiteral("Liberation Sans"), 8));
 
     HST_Options options;
     QString error;
