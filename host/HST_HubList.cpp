@@ -4,6 +4,7 @@
 #include "host/HST_Recorder.h"
 #include "util/APP_Exception.h"
 
+#include <QJsonArray>
 #include <QMutexLocker>
 #include <QThread>
 
@@ -75,8 +76,18 @@ void HST_HubList::rollbackSearchList()
 
 void HST_HubList::connectAll(int kind, bool wait)
 {
+    QJsonArray cameUp;
+    {
+        QMutexLocker locker(&m_mutex);
+        for (const QString& ip : qAsConst(m_addresses)) {
+            HST_LinkCoreHub* hub = findLocked(ip);
+            if (hub && hub->connectIfDue())
+                cameUp.append(ip);
+        }
+    }
     record(QStringLiteral("connectAll"),
-        { { QStringLiteral("kind"), kind }, { QStringLiteral("wait"), wait } });
+        { { QStringLiteral("kind"), kind }, { QStringLiteral("wait"), wait },
+            { QStringLiteral("connected"), cameUp } });
 }
 
 void HST_HubList::shutdown()
@@ -99,6 +110,7 @@ void HST_HubList::addSearchAddress(const QString& ip)
             HST_HubSpec spec;
             spec.ip = ip;
             spec.firmware.clear();
+            spec.connects = HST_HubConnects::Never;
             spec.connected = false;
             m_hubs.emplace_back(new HST_LinkCoreHub(spec));
         }

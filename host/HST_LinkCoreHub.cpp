@@ -25,10 +25,19 @@ HST_Outcome HST_LinkCoreHub::changeAddressOutcome() const
     return m_spec.changeAddress;
 }
 
+bool HST_LinkCoreHub::connectIfDue()
+{
+    QMutexLocker locker(&m_mutex);
+    if (m_spec.connected || m_spec.connects != HST_HubConnects::OnConnect)
+        return false;
+    m_spec.connected = true;
+    return true;
+}
+
 bool HST_LinkCoreHub::hasPendingFrequency() const
 {
     QMutexLocker locker(&m_mutex);
-    return m_pendingFrequency >= 0 && m_pendingFrequency != m_spec.frequency;
+    return m_pendingFrequency >= 0;
 }
 
 void HST_LinkCoreHub::applyPendingFrequency()

@@ -5,8 +5,8 @@
 
 #include <QMutex>
 
-// One simulated network hub. A frequency set by the plug-in stays pending until the host
-// applies it after a successful sync.
+// One simulated network hub. A frequency set by the plug-in stays pending, whatever its value,
+// until the host applies it after a successful sync.
 class HST_LinkCoreHub final : public DOC_LinkCore
 {
 public:
@@ -15,6 +15,8 @@ public:
     QString ip() const;
     void setIp(const QString& ip);
     HST_Outcome changeAddressOutcome() const;
+    // True when this call brought the hub up: it answers from the first connectAll on.
+    bool connectIfDue();
     bool hasPendingFrequency() const;
     void applyPendingFrequency();
 

@@ -224,7 +224,8 @@ HST_HubSpec readHub(const QJsonValue& value, const QString& name, int index)
             QStringLiteral("\"%1\" is neither \"connected\" nor \"disconnected\"").arg(state));
     // "state" is the older spelling of "start" and "never"; both at once could contradict.
     if (object.contains(QLatin1String("state")) && object.contains(QLatin1String("connectsOn")))
-        refuse(join(name, QStringLiteral("connectsOn")), QStringLiteral("give \"state\" or this, not both"));
+        refuse(join(name, QStringLiteral("connectsOn")),
+            QStringLiteral("give \"state\" or this, not both"));
     const QString connectsOn = readString(object, name, QStringLiteral("connectsOn"),
         state == QLatin1String("connected") ? QStringLiteral("start") : QStringLiteral("never"));
     if (connectsOn == QLatin1String("start"))

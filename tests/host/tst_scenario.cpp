@@ -70,6 +70,13 @@ void tst_Scenario::refusesBrokenScenario_data()
         << QByteArray("{\"hubs\": [{\"changeAddress\": {\"result\": \"ok\", \"delay\": 5}}]}")
         << "\"hubs[0].changeAddress.delay\""
         << "unknown key";
+    QTest::newRow("hub comes up at an unknown time")
+        << QByteArray("{\"hubs\": [{\"connectsOn\": \"later\"}]}") << "\"hubs[0].connectsOn\""
+        << "is not";
+    QTest::newRow("hub state given twice")
+        << QByteArray("{\"hubs\": [{\"state\": \"connected\", \"connectsOn\": \"never\"}]}")
+        << "\"hubs[0].connectsOn\""
+        << "not both";
     QTest::newRow("preference value is a list")
         << QByteArray("{\"prefs\": {\"sync/nrack\": [1]}}") << "\"prefs.sync/nrack\""
         << "expected a boolean, number or string";
