@@ -373,8 +373,12 @@ QString GUI_SyncControl::distributorName() const
 
 void GUI_SyncControl::guiUpdate()
 {
-    if (m_initializing)
+    // Forcing "TRIG NEG" below fires a slot whose own guiUpdate would rebuild the diagram under
+    // this one; the outer run already does all of it.
+    if (m_initializing || m_updating)
         return;
+    m_updating = true;
+    const ScopeExit done([this] { m_updating = false; });
     Ui_GUI_SyncControl& ui = *m_ui;
     const QString name = distributorName();
     ui.sync_chain_label->setText(m_host->translate(

@@ -106,6 +106,7 @@ private:
     int m_savedPolarity = 0;
     QString m_generatorAddress;
     bool m_guiInitializing = false;
+    bool m_updating = false;
     DOC_SignalGenerator* m_generator = nullptr;
     bool m_generatorAvailable = false;
 };

@@ -46,11 +46,16 @@ QWidget* diagramOf(QDialog* dialog)
     return dialog->findChild<QWidget*>(QStringLiteral("diagram"));
 }
 
-// "name@x,y,w,h", "name:text", "name!" (absent), "@minHeight=N".
+// "name@x,y,w,h", "name:text", "name!" (absent), "name#N" (how many), "@minHeight=N".
 QString describe(QWidget* diagram, const QString& query)
 {
     if (query.startsWith(QLatin1String("@minHeight")))
         return QStringLiteral("@minHeight=%1").arg(diagram->minimumHeight());
+    if (query.contains(QLatin1Char('#'))) {
+        const QString name = query.section(QLatin1Char('#'), 0, 0);
+        return name + QLatin1Char('#')
+               + QString::number(diagram->findChildren<QWidget*>(name, Qt::FindDirectChildrenOnly).size());
+    }
     const bool absent = query.endsWith(QLatin1Char('!'));
     const QString name = query.section(QRegularExpression(QStringLiteral("[@:!]")), 0, 0);
     QWidget* child = nullptr;
@@ -98,7 +103,7 @@ void tst_Diagram::labels_data()
                        "port0-0!"};
     QTest::newRow("Link Core with a syncing hub: no sync box even when external")
         << world(TwoCameras, ExternalPrefs + QStringLiteral(", \"sync/nrack\": 2"), SyncingHub)
-        << QStringList{"nrackPanel@430,90,220,340", "syncLabel!"};
+        << QStringList{"nrackPanel@430,90,220,340", "syncLabel!", "side0#1", "eTriggerLabel#1"};
 }
 
 void tst_Diagram::labels()

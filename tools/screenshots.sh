@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Regenerates the README's screenshots of the sync dialog under Xvfb (after tools/build.sh).
+set -euo pipefail
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+host="$root/build/host/tarvix4host"
+out="$root/docs/screenshots"
+mkdir -p "$out"
+shoot() { # scenario, picture
+    local prefs; prefs="$(mktemp -d)/prefs.ini"
+    printf '[{"wait": 500}, {"screenshot": "%s"}, {"click": "Sync quit"}]' "$2" > "$prefs.script"
+    xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
+        --press synccontrol --script "$prefs.script" --quit > /dev/null
+}
+shoot "$root/tools/screenshots/external.json" "$out/external-no-distributor.png"
+shoot "$root/tools/screenshots/chain-nrack.json" "$out/chain-nrack.png"
+shoot "$root/host/scenarios/hubs.json" "$out/link-core-hubs.png"
+ls -1 "$out"
