@@ -3,6 +3,7 @@
 #include "ui_GUI_SyncControl.h"
 
 #include "generator/DOC_VIGen.h"
+#include "generator/GUI_SyncSignalGeneratorConnect.h"
 #include "plugin/APP_CameraTypeRecord.h"
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
@@ -12,9 +13,11 @@
 #include "sync/GUI_SyncControlCombobox.h"
 #include "sync/GUI_SyncControlSearchSetting.h"
 #include "sync/GUI_SyncControlSetting.h"
+#include "sync/GUI_SyncProgress.h"
 #include "sync/SyncCameraOrder.h"
 #include "sync/SyncWiringDiagramWidget.h"
 #include "util/APP_Exception.h"
+#include "util/DOC_Exception.h"
 #include "util/FunctionLogGuard.h"
 #include "util/ScopeExit.h"
 #include "util/UTL_Messages.h"
@@ -24,6 +27,7 @@
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QMutexLocker>
 #include <QTimer>
 
@@ -653,27 +657,143 @@ void GUI_SyncControl::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-// The sync itself and the question on leaving come with the execution step.
 void GUI_SyncControl::on_cancel_button_clicked()
 {
+    SYNC_TRACE(QStringLiteral("GUI_SyncControl::on_cancel_button_clicked"), QString());
     logUserOperation(QStringLiteral("GUI_SyncControl"),
                      QStringLiteral("GUI_SyncControl::on_cancel_button_clicked"),
                      QStringLiteral("Button"), QStringLiteral("clicked"), QString());
+    if (m_syncPossible && hasPendingChanges()) {
+        const int answer = UTL_Messages::confirmYesNoCancel(
+            m_host->translate(QStringLiteral(
+                "Synchronization is not done. Would you like to sync? This process can not be "
+                "undone. Do you want to execute the synchronization process?")),
+            m_host, this, {});
+        if (answer == QMessageBox::Yes) {
+            on_ok_button_clicked();
+            return;
+        }
+        if (answer == QMessageBox::Cancel)
+            return;
+    }
     stopBlinking();
     reject();
 }
 
 void GUI_SyncControl::on_ok_button_clicked()
 {
+    SYNC_TRACE(QStringLiteral("GUI_SyncControl::on_ok_button_clicked"), QString());
     logUserOperation(QStringLiteral("GUI_SyncControl"),
                      QStringLiteral("GUI_SyncControl::on_ok_button_clicked"),
                      QStringLiteral("Button"), QStringLiteral("clicked"), QString());
+    try {
+        executeSync();
+    } catch (const std::exception& e) {
+        m_host->reportException(e);
+    }
+}
+
+void GUI_SyncControl::executeSync()
+{
+    Ui_GUI_SyncControl& ui = *m_ui;
+    if (!m_host->confirm(m_host->translate(QStringLiteral(
+                             "Make sure that it is connected as shown in the wiring diagram. Do "
+                             "you want to execute the synchronization process?")),
+                         this, QVariantMap()))
+        return;
+
+    const quint32 masterAddress = ui.masterCameras_comboBox->currentData().toUInt();
+    DOC_Camera* master = nullptr;
+    bool eraseAgreed = false;
+    for (DOC_Camera* camera : qAsConst(m_cameras)) {
+        if (cameraAddress(camera) == masterAddress)
+            master = camera;
+        if (camera->isFunctionSupported(116, true) && camera->hasRecordedData()) {
+            if (!eraseAgreed) {
+                if (!m_host->confirm(m_host->translate(QStringLiteral(
+                                         "There are cameras that need to erase the image data "
+                                         "recorded to continue the operation. Would you like to "
+                                         "erase the data and continue the operation?")),
+                                     this, QVariantMap()))
+                    return;
+                eraseAgreed = true;
+            }
+            camera->eraseRecordedData(0);
+        }
+    }
+
+    SyncSettings settings;
+    settings.distributor = ui.NRack_comboBox->currentData().toInt();
+    settings.external = ui.sync_external_radio->isChecked();
+    settings.generatorControl =
+        ui.signal_generator_control_checkBox->checkState() == Qt::Checked;
+    settings.syncIn = ui.sync_in_comboBox->currentData().toInt();
+    settings.frequency = -1;
+    settings.polarity = ui.trigger_sig_polarity_comboBox->currentData().toInt();
+
+    // The generator is set up before the cameras, so a refusal leaves them untouched.
+    if (settings.external && settings.generatorControl && m_generatorAvailable && m_generator
+        && m_generator->isConnected()) {
+        try {
+            m_generator->sync(ui.frequency_comboBox->currentText().toInt());
+        } catch (const DOC_Exception&) {
+            m_host->showError(
+                m_host->translate(QStringLiteral("Failed sync to signal generator.")), nullptr);
+            return;
+        }
+        settings.frequency = ui.frequency_comboBox->currentData().toInt();
+    }
+
+    GUI_SyncProgress progress(m_host);
+    progress.start(m_cameras, master, settings);
+    if (!progress.result()) {
+        m_host->showInformation(m_host->translate(QStringLiteral("Synchronization failed.")),
+                                nullptr);
+        return;
+    }
+
+    m_host->showInformation(m_host->translate(QStringLiteral("Synchronization is complete.")),
+                            nullptr);
+    m_savedDistributor = settings.distributor;
+    m_host->setPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_NRACK, m_savedDistributor);
+    m_savedExternal = settings.external;
+    m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_EXTERNAL, m_savedExternal);
+    m_savedGeneratorControl = ui.signal_generator_control_checkBox->isChecked();
+    m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_CTRL, m_savedGeneratorControl);
+    m_savedFrequency = ui.frequency_comboBox->currentData().toInt();
+    m_host->setPrefString(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_FREQUENCY,
+                          QString::number(m_savedFrequency));
+    m_savedSyncIn = ui.sync_in_comboBox->currentData().toInt();
+    m_host->setPrefString(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_INPUT,
+                          QString::number(m_savedSyncIn));
+    m_savedPolarity = ui.trigger_sig_polarity_comboBox->currentData().toInt();
+    m_host->setPrefString(SyncKeys::PREF_KEY_SYNCCONTROL_TRIGGER_SIGNAL_POLARITY,
+                          QString::number(m_savedPolarity));
+    if (!settings.external && master) {
+        m_appliedMaster = int(cameraAddress(master));
+        m_host->setPrefString(SyncKeys::PREF_KEY_SYNCCONTROL_MASTER_CAMERA,
+                              master->ipAddress(true));
+    }
+    static_cast<APP_LinkCoreManager*>(m_host)->applyChanges();
+    stopBlinking();
 }
 
 void GUI_SyncControl::on_connect_signal_generator_button_clicked()
 {
     slotFrame(QStringLiteral("GUI_SyncControl::on_connect_signal_generator_button_clicked"),
-              QString(), [] {});
+              QString(), [this] {
+                  auto* dialog = new GUI_SyncSignalGeneratorConnect(
+                      m_host, m_host->getMainWindow(), m_generator);
+                  const ScopeExit removeDialog([dialog] { delete dialog; });
+                  if (dialog->exec() == QDialog::Accepted) {
+                      QString address;
+                      m_generatorAddress = m_host->getPrefString(
+                          address, SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, QVariant());
+                  } else {
+                      m_host->setPrefString(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS,
+                                            m_generatorAddress);
+                  }
+              });
 }
 
 void GUI_SyncControl::on_masterCameras_comboBox_currentIndexChanged(int index)

@@ -67,6 +67,8 @@ private slots:
 private:
     void init();
     void checkSyncConditions();
+    // The body of "Sync execute"; throws what a host call threw.
+    void executeSync();
     void guiInit();
     void startHubManager();
     void warnMasterConnector();
