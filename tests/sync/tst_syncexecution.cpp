@@ -1,0 +1,190 @@
+#include "host/HST_Application.h"
+#include "host/HST_Recorder.h"
+
+#include <QJsonArray>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// "Sync execute" and "Sync quit" from the button to the stored preferences, through the real
+// plug-in file in the reference host, with every answer scripted.
+class tst_SyncExecution : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void flow_data();
+    void flow();
+
+private:
+    struct Run
+    {
+        int code = -1;
+        QList<QJsonObject> events;
+        QStringList calls(const QString& call, const QString& field) const;
+    };
+    static Run run(const QByteArray& scenario, const QJsonArray& steps, const QStringList& clicks);
+};
+
+QStringList tst_SyncExecution::Run::calls(const QString& call, const QString& field) const
+{
+    QStringList result;
+    for (const QJsonObject& event : events) {
+        if (event.value(QStringLiteral("call")).toString() == call)
+            result.append(event.value(field).toVariant().toString());
+    }
+    return result;
+}
+
+tst_SyncExecution::Run tst_SyncExecution::run(const QByteArray& scenario, const QJsonArray& steps,
+                                               const QStringList& clicks)
+{
+    QTemporaryDir dir;
+    HST_Options options;
+    options.scenarioJson = scenario;
+    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
+    options.prefsFile = dir.filePath(QStringLiteral("prefs.ini"));
+    options.press = QStringLiteral("synccontrol");
+    options.steps = steps;
+    options.answers = clicks;
+    options.quit = true;
+    options.stepTimeoutMs = 3000;
+    HST_Application application(options);
+    Run result;
+    result.code = application.run();
+    result.events = application.recorder()->events();
+    return result;
+}
+
+namespace {
+
+QByteArray world(const QString& cameras, const QString& extra = QString())
+{
+    return QStringLiteral("{\"syncCapableTypes\": [1], \"cameras\": [%1]%2}")
+        .arg(cameras, extra)
+        .toUtf8();
+}
+
+const QString Cameras = QStringLiteral(
+    "{\"name\": \"A\", \"ip\": \"10.0.0.3\", \"type\": 1}, "
+    "{\"name\": \"B\", \"ip\": \"10.0.0.1\", \"type\": 1, \"exposureTimingClass\": 1}, "
+    "{\"name\": \"C\", \"ip\": \"10.0.0.2\", \"type\": 1, \"exposureTimingClass\": 1}");
+const QString ErasingCameras = QStringLiteral(
+    "{\"ip\": \"10.0.0.1\", \"type\": 1, \"needsErase\": true, \"recorded\": true}, "
+    "{\"ip\": \"10.0.0.2\", \"type\": 1}, "
+    "{\"ip\": \"10.0.0.3\", \"type\": 1, \"needsErase\": true, \"recorded\": true}");
+const char* const Confirm = "Make sure that it is connected as shown in the wiring diagram. Do "
+                            "you want to execute the synchronization process?";
+const char* const EraseQuestion =
+    "There are cameras that need to erase the image data recorded to continue the operation. "
+    "Would you like to erase the data and continue the operation?";
+
+} // namespace
+
+void tst_SyncExecution::flow_data()
+{
+    QTest::addColumn<QByteArray>("scenario");
+    QTest::addColumn<QStringList>("clicks");
+    QTest::addColumn<QStringList>("questions");
+    QTest::addColumn<QString>("request");      // applySync as "cameras|master|external"
+    QTest::addColumn<QStringList>("messages");  // information and error boxes
+    QTest::addColumn<QStringList>("stored");    // sync/ keys written, in order
+    QTest::addColumn<QStringList>("erased");
+
+    const QStringList allSyncPrefs{"sync/nrack", "sync/external", "sync/generator/ctrl",
+                                   "sync/generator/frequency", "sync/generator/input",
+                                   "sync/triggerSignalPolarity"};
+
+    QTest::newRow("chain: master first, everything stored with the master")
+        << world(Cameras, ",\"prefs\": {\"sync/masterCamera\": \"10.0.0.2\"}")
+        << QStringList{"Sync execute", "OK", "OK", "Sync quit"} << QStringList{Confirm}
+        << "10.0.0.2,10.0.0.1,10.0.0.3|10.0.0.2|false"
+        << QStringList{"Synchronization is complete."}
+        << allSyncPrefs + QStringList{"sync/masterCamera"} << QStringList{};
+    QTest::newRow("external: address order, master passed but not stored")
+        << world(Cameras, ",\"prefs\": {\"sync/external\": true}")
+        << QStringList{"Sync execute", "OK", "OK", "Sync quit"} << QStringList{Confirm}
+        << "10.0.0.1,10.0.0.2,10.0.0.3|10.0.0.1|true"
+        << QStringList{"Synchronization is complete."} << allSyncPrefs << QStringList{};
+    QTest::newRow("declined confirmation: nothing happens")
+        << world(Cameras) << QStringList{"Sync execute", "Cancel", "Sync quit"}
+        << QStringList{Confirm} << QString() << QStringList{} << QStringList{} << QStringList{};
+    QTest::newRow("host fails: told by an information box, nothing stored")
+        << world(Cameras, ",\"applySync\": {\"result\": \"error\", \"message\": \"camera 2 lost\"}")
+        << QStringList{"Sync execute", "OK", "OK", "Sync quit"} << QStringList{Confirm}
+        << "10.0.0.1,10.0.0.2,10.0.0.3|10.0.0.1|false" << QStringList{"Synchronization failed."}
+        << QStringList{} << QStringList{};
+    QTest::newRow("erase confirmed: one question, both cameras erased in list order")
+        << world(ErasingCameras) << QStringList{"Sync execute", "OK", "OK", "OK", "Sync quit"}
+        << QStringList{Confirm, EraseQuestion} << "10.0.0.1,10.0.0.2,10.0.0.3|10.0.0.1|false"
+        << QStringList{"Synchronization is complete."}
+        << allSyncPrefs + QStringList{"sync/masterCamera"}
+        << QStringList{"10.0.0.1", "10.0.0.3"};
+    QTest::newRow("erase refused: nothing erased, no sync")
+        << world(ErasingCameras) << QStringList{"Sync execute", "OK", "Cancel", "Sync quit"}
+        << QStringList{Confirm, EraseQuestion} << QString() << QStringList{} << QStringList{}
+        << QStringList{};
+    QTest::newRow("quit with pending changes, Yes: syncs and stays open")
+        << world(Cameras, ",\"prefs\": {\"sync/nrack\": 1}")
+        << QStringList{"NRack_comboBox", "Sync quit", "Yes", "OK", "OK", "Sync quit"}
+        << QStringList{Confirm} << "10.0.0.1,10.0.0.2,10.0.0.3|10.0.0.1|false"
+        << QStringList{"Synchronization is complete."}
+        << allSyncPrefs + QStringList{"sync/masterCamera"} << QStringList{};
+    QTest::newRow("quit with pending changes, Cancel stays, No leaves unsynced")
+        << world(Cameras, ",\"prefs\": {\"sync/nrack\": 1}")
+        << QStringList{"NRack_comboBox", "Sync quit", "Cancel", "Sync quit", "No"}
+        << QStringList{} << QString() << QStringList{} << QStringList{} << QStringList{};
+}
+
+void tst_SyncExecution::flow()
+{
+    QFETCH(QByteArray, scenario);
+    QFETCH(QStringList, clicks);
+    QFETCH(QStringList, questions);
+    QFETCH(QString, request);
+    QFETCH(QStringList, messages);
+    QFETCH(QStringList, stored);
+    QFETCH(QStringList, erased);
+
+    // "NRack_comboBox" stands for choosing "Do Not Use", a change from the stored N-Rack.
+    QStringList answers = clicks;
+    QJsonArray steps;
+    if (answers.first() == QLatin1String("NRack_comboBox")) {
+        answers.removeFirst();
+        steps.append(QJsonObject{
+            {QStringLiteral("set"), QJsonArray{QStringLiteral("NRack_comboBox"), 0}}});
+    }
+    const Run result = run(scenario, steps, answers);
+    QCOMPARE(result.code, 0);
+
+    QStringList asked;
+    QStringList told;
+    for (const QJsonObject& event : result.events) {
+        if (event.value(QStringLiteral("call")).toString() != QLatin1String("message"))
+            continue;
+        const QString kind = event.value(QStringLiteral("kind")).toString();
+        (kind == QLatin1String("confirm") ? asked : told)
+            .append(event.value(QStringLiteral("text")).toString());
+    }
+    QCOMPARE(asked, questions);
+    QCOMPARE(told, messages);
+
+    QStringList requests;
+    for (const QJsonObject& event : result.events) {
+        if (event.value(QStringLiteral("call")).toString() != QLatin1String("applySync"))
+            continue;
+        QStringList cameras;
+        for (const QJsonValue& camera : event.value(QStringLiteral("cameras")).toArray())
+            cameras.append(camera.toString());
+        requests.append(cameras.join(',') + '|' + event.value(QStringLiteral("master")).toString()
+                        + '|' + (event.value(QStringLiteral("external")).toBool() ? "true" : "false"));
+    }
+    QCOMPARE(requests, request.isEmpty() ? QStringList() : QStringList{request});
+
+    QStringList keys = result.calls(QStringLiteral("setPref"), QStringLiteral("key"));
+    keys.removeAll(QStringLiteral("sync/generator/tryconnect"));
+    QCOMPARE(keys, stored);
+    QCOMPARE(result.calls(QStringLiteral("eraseRecordedData"), QStringLiteral("camera")), erased);
+}
+
+QTEST_MAIN(tst_SyncExecution)
+#include "tst_syncexecution.moc"
