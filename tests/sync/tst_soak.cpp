@@ -1,0 +1,132 @@
+#include "host/HST_Application.h"
+#include "host/HST_MainWindow.h"
+#include "host/HST_Recorder.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPixmapCache>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+#include <malloc.h>
+
+// Opening the sync dialog, changing choices and leaving it, many times over: the plug-in lives
+// in the host's process for a whole recording session, so nothing may pile up.
+class tst_Soak : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void dialogCycles();
+};
+
+namespace {
+
+struct Usage
+{
+    qint64 rssKb = 0;
+    int threads = 0;
+    int files = 0;
+};
+
+Usage usage()
+{
+    // Qt's pixmap cache fills up to its limit as styles draw, and the allocator keeps freed
+    // pages for reuse; neither is held by the plug-in, so both are emptied before looking.
+    QPixmapCache::clear();
+    malloc_trim(0);
+    Usage u;
+    QFile statm(QStringLiteral("/proc/self/statm"));
+    if (statm.open(QIODevice::ReadOnly))
+        u.rssKb = statm.readAll().split(' ').value(1).toLongLong() * 4;
+    u.threads = QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+    u.files = QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size();
+    return u;
+}
+
+// Answers "No" to the question on leaving, and OK to anything else.
+void answerBoxes()
+{
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box)
+        return;
+    QAbstractButton* button = box->button(QMessageBox::No);
+    if (!button)
+        button = box->buttons().value(0);
+    button->click();
+}
+
+} // namespace
+
+void tst_Soak::dialogCycles()
+{
+    const int cycles = qEnvironmentVariableIntValue("SYNC_SOAK_CYCLES") > 0
+                           ? qEnvironmentVariableIntValue("SYNC_SOAK_CYCLES")
+                           : 500;
+    QTemporaryDir dir;
+    HST_Options options;
+    options.scenarioJson = "{\"syncCapableTypes\": [1], \"cameras\": ["
+                           "{\"ip\": \"10.0.0.1\", \"type\": 1}, {\"ip\": \"10.0.0.2\", \"type\": 1},"
+                           "{\"ip\": \"10.0.0.3\", \"type\": 1}], \"hubs\": [{\"ip\": \"10.0.1.1\"}]}";
+    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
+    options.prefsFile = dir.filePath(QStringLiteral("prefs.ini"));
+    HST_Application application(options);
+    QCOMPARE(application.start(), 0);
+    // Quiet: every cycle writes dozens of trace lines.
+    const QtMessageHandler previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+
+    QTimer boxes;
+    boxes.setInterval(1);
+    connect(&boxes, &QTimer::timeout, &answerBoxes);
+    boxes.start();
+
+    int done = 0;
+    Usage after50;
+    QTimer driver;
+    driver.setInterval(1);
+    connect(&driver, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || dialog->objectName() != QLatin1String("GUI_SyncControl"))
+            return;
+        auto* distributor = dialog->findChild<QComboBox*>(QStringLiteral("NRack_comboBox"));
+        distributor->setCurrentIndex((done % 2) + 1);
+        dialog->findChild<QRadioButton*>(done % 3 ? QStringLiteral("sync_external_radio")
+                                                  : QStringLiteral("sync_chain_radio"))
+            ->click();
+        dialog->findChild<QAbstractButton*>(QStringLiteral("cancel_button"))->click();
+    });
+    driver.start();
+
+    for (done = 0; done < cycles; ++done) {
+        QVERIFY(application.mainWindow()->press(QStringLiteral("synccontrol")));
+        // The host's record of the run is the harness's, not the plug-in's.
+        application.recorder()->clear();
+        if (done == 49)
+            after50 = usage();
+    }
+    driver.stop();
+    boxes.stop();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const Usage last = usage();
+    qInstallMessageHandler(previous);
+
+    const double growth = after50.rssKb ? double(last.rssKb - after50.rssKb) / after50.rssKb : 0.0;
+    qInfo("soak: %d dialog cycles; RSS after 50: %lld kB, after %d: %lld kB (%+.1f %%); "
+          "threads %d -> %d; open files %d -> %d",
+          cycles, after50.rssKb, cycles, last.rssKb, growth * 100, after50.threads, last.threads,
+          after50.files, last.files);
+    if (cycles >= 100)
+        QVERIFY2(growth < 0.05, "memory grows with each opening of the dialog");
+    QVERIFY(last.threads <= after50.threads);
+    QVERIFY(last.files <= after50.files);
+}
+
+QTEST_MAIN(tst_Soak)
+#include "tst_soak.moc"
