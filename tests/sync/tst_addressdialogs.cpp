@@ -156,16 +156,12 @@ void tst_AddressDialogs::formsStartFromTheHost()
 {
     m_host->addSearchAddress(QStringLiteral("10.0.0.4"));
     GUI_SyncControlSearchSetting search(m_host.get(), nullptr);
-    QCOMPARE(search.size(), QSize(360, 265));
-    QCOMPARE(search.minimumSize(), search.maximumSize());
-    QCOMPARE(search.windowTitle(), QStringLiteral("SearchSetting"));
     QCOMPARE(fieldTexts(&search), QStringList({ "192", "168", "0", "100" }));
     QCOMPARE(tableTexts(&search), hostAddresses());
     QCOMPARE(search.findChild<QTableWidget*>()->horizontalHeaderItem(0)->text(),
         QStringLiteral("IP address"));
 
     GUI_SyncControlSetting known(m_host.get(), QStringLiteral("10.0.0.1"), nullptr);
-    QCOMPARE(known.size(), QSize(386, 209));
     QCOMPARE(fieldTexts(&known), QStringList({ "10", "0", "0", "1" }));
     QCOMPARE(
         known.findChild<QLabel*>(QStringLiteral("version_label"))->text(), QStringLiteral("2.1.0"));
