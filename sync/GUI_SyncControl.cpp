@@ -9,12 +9,12 @@
 #include "plugin/DOC_Interface.h"
 #include "plugin/DOC_LinkCore.h"
 #include "plugin/SyncKeys.h"
-#include "sync/GUI_SyncControlButton.h"
 #include "sync/GUI_SyncControlCombobox.h"
 #include "sync/GUI_SyncControlSearchSetting.h"
 #include "sync/GUI_SyncControlSetting.h"
 #include "sync/GUI_SyncProgress.h"
 #include "sync/SyncCameraOrder.h"
+#include "sync/SyncHubTable.h"
 #include "sync/SyncWiringDiagramWidget.h"
 #include "util/APP_Exception.h"
 #include "util/DOC_Exception.h"
@@ -35,8 +35,6 @@
 
 namespace {
 
-const QColor HubGrey(225, 225, 225);
-
 QString indexParameter(int index)
 {
     return FunctionLogGuard::parameter(QStringLiteral("index"), index);
@@ -50,15 +48,6 @@ auto exitFrame(GUI_SyncControl* dialog, const QString& function)
         FunctionLogGuard::writeLeave(function + QStringLiteral("::<lambda_1>::operator ()"));
         dialog->guiUpdate();
     });
-}
-
-QTableWidgetItem* hubItem(const QString& text, const QColor& background)
-{
-    auto* item = new QTableWidgetItem(text);
-    item->setBackground(background);
-    item->setTextAlignment(Qt::AlignCenter);
-    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-    return item;
 }
 
 } // namespace
@@ -95,6 +84,10 @@ GUI_SyncControl::GUI_SyncControl(APP_Host* host, QWidget* parent)
     m_diagram = new SyncWiringDiagramWidget;
     connect(m_diagram, &SyncWiringDiagramWidget::drawEevent, this,
             &GUI_SyncControl::paintDiagram);
+
+    m_hubTable = new SyncHubTable(host, m_ui->tableWidget, this);
+    connect(m_hubTable, &SyncHubTable::editClicked, this, &GUI_SyncControl::onEditPushButtonClicked);
+    connect(m_hubTable, &SyncHubTable::frequencyChanged, this, &GUI_SyncControl::onComboboxChanged);
 }
 
 GUI_SyncControl::~GUI_SyncControl()
@@ -105,7 +98,7 @@ GUI_SyncControl::~GUI_SyncControl()
         m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, connected);
         if (m_generator)
             m_generator->disconnect();
-        clearDeviceTable();
+        m_hubTable->clear();
     } catch (const std::exception& e) {
         m_host->reportException(e);
     }
@@ -462,8 +455,8 @@ void GUI_SyncControl::guiUpdate()
                             static_cast<QWidget*>(ui.update_pushButton)})
         widget->setVisible(hubs);
     if (hubs) {
-        clearDeviceTable();
-        fillDeviceTable();
+        m_hubTable->clear();
+        m_hubTable->fill();
     } else {
         ui.sync_chain_label->setVisible(ui.NRack_comboBox->currentIndex() != 0);
     }
@@ -479,7 +472,7 @@ SyncWiringDiagram::Choices GUI_SyncControl::diagramChoices()
     choices.syncIn = m_ui->sync_in_comboBox->currentData().toInt();
     choices.polarity = m_ui->trigger_sig_polarity_comboBox->currentData().toInt();
     choices.distributorName = distributorName();
-    choices.connectedInternalHubs = [this] { return connectedInternalHubs(); };
+    choices.connectedInternalHubs = [this] { return m_hubTable->connectedInternalHubs(); };
     choices.translate = [this](const QString& text) { return m_host->translate(text); };
     return choices;
 }
@@ -487,24 +480,6 @@ SyncWiringDiagram::Choices GUI_SyncControl::diagramChoices()
 void GUI_SyncControl::paintDiagram()
 {
     m_wiring.paint(m_diagram, diagramChoices());
-}
-
-int GUI_SyncControl::connectedInternalHubs()
-{
-    APP_LinkCoreManager* manager = m_host;
-    QStringList addresses;
-    manager->addresses(addresses, true);
-    int count = 0;
-    for (const QString& address : qAsConst(addresses)) {
-        try {
-            DOC_LinkCore* hub = manager->device(address);
-            if (hub && hub->isConnected() && hub->syncMode() == 0)
-                ++count;
-        } catch (const std::exception& e) {
-            m_host->reportException(e);
-        }
-    }
-    return count;
 }
 
 bool GUI_SyncControl::hasPendingChanges()
@@ -543,80 +518,6 @@ void GUI_SyncControl::warnMasterConnector()
     const QString text = m_host->translate(QStringLiteral(
         "When connecting to %1, use the camera connected to the CAM 1 connector as the master"));
     m_host->showWarning(text.arg(distributorName()), this);
-}
-
-void GUI_SyncControl::fillDeviceTable()
-{
-    APP_LinkCoreManager* manager = m_host;
-    QTableWidget* table = m_ui->tableWidget;
-    QStringList addresses;
-    manager->addresses(addresses, true);
-    table->setRowCount(addresses.size());
-    for (int row = 0; row < addresses.size(); ++row) {
-        const QString& address = addresses.at(row);
-        try {
-            DOC_LinkCore* hub = manager->device(address);
-            const bool connected = hub && hub->isConnected();
-            table->setItem(row, 0, hubItem(address, connected ? QColor(Qt::white) : HubGrey));
-            if (!connected) {
-                table->setItem(row, 1, hubItem(QString(), HubGrey));
-                table->setItem(row, 2, hubItem(QString(), HubGrey));
-                auto* button = new GUI_SyncControlButton(address, nullptr);
-                button->setText(m_host->translate(QStringLiteral("Edit")));
-                button->setFocusPolicy(Qt::TabFocus);
-                button->setEnabled(false);
-                connect(button, &GUI_SyncControlButton::signalClicked, this,
-                        &GUI_SyncControl::onEditPushButtonClicked);
-                table->setCellWidget(row, 3, button);
-                continue;
-            }
-            const int mode = hub->syncMode();
-            QList<int> frequencies;
-            hub->frequencies(frequencies);
-            table->setItem(row, 1, hubItem(hub->syncModeText(), Qt::white));
-            if (mode == 0) {
-                auto* combo =
-                    new GUI_SyncControlCombobox(address, frequencies, hub->frequency(), table);
-                combo->setStyleSheet(
-                    QStringLiteral("QComboBox { background-color: white; text-align:center;}"));
-                // Queued: the slot's guiUpdate deletes the sender.
-                connect(combo, &GUI_SyncControlCombobox::signalTextChanged, this,
-                        &GUI_SyncControl::onComboboxChanged, Qt::QueuedConnection);
-                table->setCellWidget(row, 2, combo);
-            } else {
-                table->setItem(row, 2, hubItem(QString(), HubGrey));
-            }
-            auto* button = new GUI_SyncControlButton(address, table);
-            button->setText(m_host->translate(QStringLiteral("Edit")));
-            button->setFocusPolicy(Qt::TabFocus);
-            connect(button, &GUI_SyncControlButton::signalClicked, this,
-                    &GUI_SyncControl::onEditPushButtonClicked);
-            table->setCellWidget(row, 3, button);
-        } catch (const std::exception& e) {
-            m_host->reportException(e);
-        }
-    }
-    table->setEditTriggers(QAbstractItemView::AnyKeyPressed);
-}
-
-void GUI_SyncControl::clearDeviceTable()
-{
-    QTableWidget* table = m_ui->tableWidget;
-    for (int row = 0; row < table->rowCount(); ++row) {
-        if (auto* combo = qobject_cast<GUI_SyncControlCombobox*>(table->cellWidget(row, 2))) {
-            table->setCellWidget(row, 2, nullptr);
-            disconnect(combo, &GUI_SyncControlCombobox::signalTextChanged, this,
-                       &GUI_SyncControl::onComboboxChanged);
-            delete combo;
-        }
-        if (auto* button = qobject_cast<GUI_SyncControlButton*>(table->cellWidget(row, 3))) {
-            table->setCellWidget(row, 3, nullptr);
-            disconnect(button, &GUI_SyncControlButton::signalClicked, this,
-                       &GUI_SyncControl::onEditPushButtonClicked);
-            delete button;
-        }
-    }
-    table->setRowCount(0);
 }
 
 void GUI_SyncControl::setOkButtonBlink(bool on)

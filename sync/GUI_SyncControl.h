@@ -12,6 +12,7 @@ class DOC_Camera;
 class DOC_SignalGenerator;
 class GUI_SyncControlCombobox;
 class QTimer;
+class SyncHubTable;
 class SyncWiringDiagramWidget;
 class Ui_GUI_SyncControl;
 
@@ -73,11 +74,8 @@ private:
     void startHubManager();
     void warnMasterConnector();
     QString distributorName() const;
-    int connectedInternalHubs();
     SyncWiringDiagram::Choices diagramChoices();
     void rebuildDiagram();
-    void fillDeviceTable();
-    void clearDeviceTable();
     void setOkButtonBlink(bool on);
     void resetOkButtonStyle();
     void stopBlinking();
@@ -97,6 +95,7 @@ private:
     QMutex m_blinkMutex;
     bool m_blinkOn = false;
     SyncWiringDiagram m_wiring;
+    SyncHubTable* m_hubTable = nullptr;
     int m_savedDistributor = 0;
     bool m_savedExternal = false;
     int m_appliedMaster = -1;

@@ -123,7 +123,9 @@ void tst_Preconditions::refusals()
         steps.append(QJsonObject{{QStringLiteral("click"), QStringLiteral("OK")}});
     } else {
         // A disabled button can't be clicked: the step fails and the run ends with code 3.
+        // An enabled one asks for confirmation first, which is declined.
         steps.append(QJsonObject{{QStringLiteral("click"), QStringLiteral("Sync execute")}});
+        steps.append(QJsonObject{{QStringLiteral("click"), QStringLiteral("Cancel")}});
         steps.append(QJsonObject{{QStringLiteral("click"), QStringLiteral("Sync quit")}});
     }
     options.steps = steps;
