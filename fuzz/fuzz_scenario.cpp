@@ -1,0 +1,51 @@
+// The reference host's scenario loader on arbitrary bytes: a scenario file is hand-written and
+// may be anything. A refusal always names the source; an accepted scenario keeps the rules the
+// loader promises (unique addresses, counts in range).
+
+#include "host/HST_Scenario.h"
+
+#include <QByteArray>
+#include <QSet>
+#include <QString>
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+void check(bool condition)
+{
+    if (!condition)
+        std::abort();
+}
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray json(reinterpret_cast<const char *>(data), int(size));
+    const QString source = QStringLiteral("fuzz.json");
+    HST_Scenario scenario;
+    QString error;
+    if (!HST_Scenario::fromJson(json, source, scenario, error)) {
+        check(error.startsWith(source + QLatin1Char(':')));
+        check(scenario.source.isEmpty() && scenario.cameras.isEmpty());
+        return 0;
+    }
+    check(error.isEmpty());
+    check(scenario.source == source);
+    check(scenario.mode >= 0 && scenario.mode <= 2);
+    check(scenario.files >= 0 && scenario.files <= 64);
+    QSet<QString> cameraIps;
+    for (const HST_CameraSpec &camera : scenario.cameras) {
+        check(camera.documents >= 0 && camera.documents <= 64);
+        check(!cameraIps.contains(camera.ip));
+        cameraIps.insert(camera.ip);
+    }
+    QSet<QString> hubIps;
+    for (const HST_HubSpec &hub : scenario.hubs) {
+        check(!hubIps.contains(hub.ip));
+        hubIps.insert(hub.ip);
+        check(hub.connected == (hub.connects == HST_HubConnects::AtStart));
+    }
+    check(scenario.applySync.delayMs >= 0 && scenario.applySync.delayMs <= 600000);
+    return 0;
+}

@@ -1,0 +1,138 @@
+#!/usr/bin/env python3
+"""Writes the small seed corpus of each fuzz target into fuzz/corpus/<target>/.
+
+The seeds are well-formed exchanges, a few bytes to a few hundred each, so the fuzzer starts
+from the shapes the parsers accept. Run again after changing a message layout.
+"""
+import os
+import struct
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+
+CORE, CORE_VERS = 0x0607AF, 1
+PMAP, PMAP_VERS = 100000, 2
+CREATE_LINK, DEVICE_WRITE, DEVICE_READ, DEVICE_CLEAR, DESTROY_LINK = 10, 11, 12, 15, 23
+
+
+def u32(*values):
+    return b"".join(struct.pack(">I", v & 0xFFFFFFFF) for v in values)
+
+
+def opaque(data):
+    if isinstance(data, str):
+        data = data.encode()
+    return u32(len(data)) + data + b"\0" * ((4 - len(data) % 4) % 4)
+
+
+def mark(body, last=True):
+    return u32(len(body) | (0x80000000 if last else 0)) + body
+
+
+def reply(xid, results=b"", stat=0):
+    return u32(xid, 1, 0, 0, 0, stat) + results
+
+
+def call(xid, prog, vers, proc, args=b""):
+    return u32(xid, 0, 2, prog, vers, proc, 0, 0, 0, 0) + args
+
+
+def write(target, name, data):
+    folder = os.path.join(HERE, "corpus", target)
+    os.makedirs(folder, exist_ok=True)
+    with open(os.path.join(folder, name), "wb") as f:
+        f.write(data)
+
+
+def visa_reply():
+    # [expected call] [split size] [stream]
+    seeds = {
+        "getport": (0, 0, mark(reply(7, u32(40123)))),
+        "getport-unregistered": (0, 3, mark(reply(7, u32(0)))),
+        "create-link": (1, 0, mark(reply(8, u32(0, 1, 0, 4096)))),
+        "create-link-error": (1, 5, mark(reply(8, u32(9, 0, 0, 0)))),
+        "write": (2, 0, mark(reply(9, u32(0, 6)))),
+        "read": (3, 0, mark(reply(10, u32(0, 4) + opaque("+1.00000000000000E+03\n")))),
+        "read-chunks": (3, 7, mark(reply(10, u32(0, 1) + opaque("ABC")))
+                        + mark(reply(11, u32(0, 0) + opaque(""))) + mark(reply(12, u32(0, 4) + opaque("D\n")))),
+        "read-fragments": (3, 0, mark(u32(10, 1, 0), last=False)
+                           + mark(u32(0, 0, 0) + u32(0, 4) + opaque("x"))),
+        "read-late-then-right": (3, 2, mark(reply(3, u32(15, 0) + opaque(""))) + mark(reply(4, u32(0, 4) + opaque("ok")))),
+        "clear": (4, 0, mark(reply(11, u32(0)))),
+        "destroy": (5, 0, mark(reply(12, u32(0)))),
+        "denied": (3, 0, mark(u32(5, 1, 1, 0, 2, 2))),
+        "garbage-args": (1, 0, mark(reply(5, b"", 4))),
+        "garbage": (3, 0, mark(u32(5, 7) + b"\xde\xad\xbe")),
+    }
+    for name, (expected, split, stream) in seeds.items():
+        write("fuzz_visa_reply", name, bytes([expected, split]) + stream)
+
+
+def sim_request():
+    # [flags] [split size] [bytes]; flags & 3: 0 TCP, 1 UDP, 2 SCPI
+    link = call(1, CORE, CORE_VERS, CREATE_LINK, u32(1, 0, 0) + opaque("inst0"))
+    def dwrite(xid, text, flags=8):
+        return call(xid, CORE, CORE_VERS, DEVICE_WRITE, u32(1, 2000, 0, flags) + opaque(text))
+    dread = call(9, CORE, CORE_VERS, DEVICE_READ, u32(1, 65536, 2000, 0, 0, 0))
+    session = (mark(link) + mark(dwrite(2, "*IDN?")) + mark(dread) + mark(dwrite(3, "FREQ 1000;FREQ?"))
+               + mark(dread) + mark(call(4, CORE, CORE_VERS, DEVICE_CLEAR, u32(1, 0, 0, 2000)))
+               + mark(call(5, CORE, CORE_VERS, DESTROY_LINK, u32(1))))
+    seeds = {
+        "getport": (0, 0, mark(call(1, PMAP, PMAP_VERS, 3, u32(CORE, CORE_VERS, 6, 0)))),
+        "getaddr": (0, 0, mark(call(1, PMAP, 3, 3, u32(CORE, CORE_VERS) + opaque("tcp") + opaque("") + opaque("")))),
+        "udp-getport": (1, 0, call(1, PMAP, PMAP_VERS, 3, u32(CORE, CORE_VERS, 6, 0))),
+        "session": (0, 0, session),
+        "session-split": (4, 5, session),
+        "write-in-pieces": (8, 0, mark(link) + mark(dwrite(2, "VOLT:", 0)) + mark(dwrite(3, "OFFS 0.1")) + mark(dread)),
+        "termchar-read": (0, 0, mark(link) + mark(dwrite(2, "*IDN?;SYST:ERR?")) + mark(call(9, CORE, CORE_VERS, DEVICE_READ, u32(1, 8, 0, 0, 128, ord(","))))),
+        "fragments": (0, 3, mark(link[:12], last=False) + mark(link[12:])),
+        "bad-version": (0, 0, mark(u32(1, 0, 3, CORE, CORE_VERS, 10, 0, 0, 0, 0))),
+        "scpi-setup": (2, 0, b"*RST;*CLS\0DISP OFF\0DISP:TEXT \"SYNC\"\0FUNC SQU\0FREQ 1000\0VOLT:HIGH 5\0"
+                       b"VOLT:LOW 0\0FUNC:PULS:DCYC 50\0OUTP ON\0OUTP?;FREQ?;VOLT?;VOLT:OFFS?;FUNC?\0SYST:ERR?"),
+        "scpi-errors": (2, 0, b"FREQ banana\0VOLT 99\0NOPE\0FUNCTION:SHAPE puls;freq max;FREQ?\0syst:err?;SYST:ERR?\0"
+                        b"DISP:TEXT 'a;b'\0VOLT MIN;VOLT:OFFS -1e3\0*idn?"),
+    }
+    for name, (flags, split, data) in seeds.items():
+        write("fuzz_sim_request", name, bytes([flags, split]) + data)
+
+
+def text_helpers():
+    # [double] [double] [u32] [i32] [flag] [text NUL text]
+    def seed(a, b, u, i, flag, text):
+        return struct.pack("<ddIiB", a, b, u, i, flag) + text
+    seeds = {
+        "address": seed(2.345678, 0.5, 0xC0A8000A, 0x123456, 0, b"192.168.0.10"),
+        "address-wide": seed(-0.5, 1e300, 0xFFFFFFFF, -1, 1, b"300.300.300.300.1\0" b"10.0.0.1x"),
+        "path": seed(1.0, 2.0, 0x250101, 0x235959, 0, b"/home/user/rec:01\\a\0C:/tmp/a?b"),
+        "formats": seed(12.5, 12.49995, 7, 3, 0, b"mp4\0QRAW"),
+        "date": seed(float("nan"), float("inf"), 0x991231, 0x120000, 1, b"2024/2/29\0" b"13:05"),
+        "date-seconds": seed(float("-inf"), -0.0, 0x1000000, 0, 0, b"2023/12/31\0" b"23:59:59"),
+        "unicode": seed(5e-324, 1.7976931348623157e308, 0, 0, 1, "\u00e9\u4e2d.1.2.3\0\U0001F600".encode()),
+    }
+    for name, data in seeds.items():
+        write("fuzz_text_helpers", name, data)
+
+
+def scenario():
+    seeds = {
+        "empty.json": b"{}",
+        "cameras.json": b'{"mode": 0, "syncCapableTypes": [1, 2], "cameras": [{"name": "A", "ip": "192.168.0.10",'
+                        b' "type": 1, "documents": 2, "dummy": false, "needsErase": true}, {"ip": "192.168.0.11",'
+                        b' "triggerMode": 2, "exposureTimingFlag": 1}], "files": 3}',
+        "hubs.json": b'{"hubs": [{"ip": "10.0.0.1", "firmware": "2.1", "syncMode": 0, "frequency": 500,'
+                     b' "frequencies": [100, 500], "connectsOn": "connect", "changeAddress": {"result": "error",'
+                     b' "message": "no", "delayMs": 800}}, {"state": "disconnected"}]}',
+        "misc.json": b'{"prefs": {"sync/nrack": true, "sync/freq": 1000, "sync/name": "x", "sync/f": 0.5},'
+                     b' "applySync": {"result": "ok", "delayMs": 10}, "visa": true, "faults": {"connectAll": "down"},'
+                     b' "generator": {"listen": "127.0.0.1", "portmapperPort": 1111, "silentAt": "device_read",'
+                     b' "garbage": false, "maxLinks": 2}}',
+        "refused.json": b'{"cameras": [{"ip": "1.2.3.4"}, {"ip": "1.2.3.4"}], "mode": 2.5}',
+    }
+    for name, data in seeds.items():
+        write("fuzz_scenario", name, data)
+
+
+if __name__ == "__main__":
+    visa_reply()
+    sim_request()
+    text_helpers()
+    scenario()
