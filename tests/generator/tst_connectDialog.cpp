@@ -1,7 +1,7 @@
 // The generator connect dialog end to end: the plug-in's page in a real web view, the reference
 // host (its page resources, message boxes and script steps), our VISA library and the simulated
 // instrument that the scenario's "generator" key starts. Inside a private network namespace.
-#include "../visa/NetNamespace.h"
+#include "../NetNamespace.h"
 
 #include "generator/DOC_VIGen.h"
 #include "generator/GUI_SyncSignalGeneratorConnect.h"
@@ -17,6 +17,8 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -49,6 +51,7 @@ private slots:
     void initTestCase();
     void okButton_data();
     void okButton();
+    void hostOpensDialogFromItsCommandLine();
 
 private:
     QTemporaryDir m_dir;
@@ -144,6 +147,55 @@ void tst_ConnectDialog::okButton()
     const bool accepted = warning.isEmpty() && !text.isEmpty();
     QCOMPARE(driver.isConnected(), accepted);
     driver.disconnect();
+}
+
+// The same through the host executable: its scenario key starts the simulator, its flag reaches
+// the plug-in file's entry, and the old address returns when the dialog is cancelled.
+void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
+{
+    const QString prefs = m_dir.filePath(QStringLiteral("host.ini"));
+    const QString record = m_dir.filePath(QStringLiteral("host.jsonl"));
+    const QString steps = m_dir.filePath(QStringLiteral("steps.json"));
+    QFile stepsFile(steps);
+    QVERIFY(stepsFile.open(QIODevice::WriteOnly));
+    // The page is only complete after its load; the first step waits for jQuery.
+    stepsFile.write(QJsonDocument(QJsonArray{QJsonObject{{"wait", 2000}}, pressOk("127.0.0.5"),
+                                             QJsonObject{{"click", "OK"}},
+                                             js(QStringLiteral("$('#signal_generator_cancel').click()"))})
+                        .toJson());
+    stepsFile.close();
+    const QString scenario = m_dir.filePath(QStringLiteral("scenario.json"));
+    QFile scenarioFile(scenario);
+    QVERIFY(scenarioFile.open(QIODevice::WriteOnly));
+    scenarioFile.write(R"({"generator": {}, "prefs": {"sync/generator/address": "old"}})");
+    scenarioFile.close();
+
+    QProcess host;
+    host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    host.start(QStringLiteral(HOST_EXECUTABLE),
+               {QStringLiteral("--scenario"), scenario,
+                QStringLiteral("--prefs"), prefs, QStringLiteral("--record"), record,
+                QStringLiteral("--script"), steps, QStringLiteral("--open-connect-dialog"),
+                QStringLiteral("--quit")});
+    QVERIFY(host.waitForStarted());
+    QVERIFY(host.waitForFinished(60000));
+    QCOMPARE(host.exitCode(), 0);
+
+    QFile recordFile(record);
+    QVERIFY(recordFile.open(QIODevice::ReadOnly));
+    QStringList dialogEnds, warnings;
+    for (const QByteArray& line : recordFile.readAll().split('\n')) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (event.value("call") == QLatin1String("connectDialog")
+            && event.value("phase") == QLatin1String("end"))
+            dialogEnds << QString::number(event.value("result").toInt());
+        if (event.value("call") == QLatin1String("message"))
+            warnings << event.value("text").toString();
+    }
+    QCOMPARE(dialogEnds, QStringList{QStringLiteral("0")});
+    QCOMPARE(warnings, QStringList{couldNotConnect});
+    QSettings stored(prefs, QSettings::IniFormat);
+    QCOMPARE(stored.value(addressKey).toString(), QStringLiteral("old"));
 }
 
 int main(int argc, char** argv)
