@@ -1,6 +1,7 @@
 // The driver through our VXI-11 VISA library against the simulated instrument, inside a private
 // network namespace where only loopback exists: the simulator owns port 111 and no packet can
 // leave the machine.
+#include "../NetNamespace.h"
 #include "Simulator.h"
 
 #include "generator/DOC_VIGen.h"
@@ -72,8 +73,7 @@ private:
 
 void tst_VIGenInstrument::initTestCase()
 {
-    if (qgetenv("SYNC_TEST_NETNS") != "1")
-        QSKIP("needs a private network namespace (unshare -rn), which is unavailable here");
+    REQUIRE_PRIVATE_NETWORK();
     qputenv("SYNC_VISA_LIBRARY", VXIVISA_FILE);
     qputenv("SYNC_VISA_TIMEOUT_MS", QByteArray::number(visaTimeoutMs));
     qunsetenv("SYNC_VXI11_PORTMAPPER_PORT");
@@ -196,23 +196,9 @@ void tst_VIGenInstrument::silentInstrument()
     QCOMPARE(takeWarnings().size(), opens ? 0 : 1);
 }
 
-// Runs the tests again inside a private network namespace made for this process.
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("SYNC_TEST_NETNS")) {
-        const bool available = std::system("unshare -rn true >/dev/null 2>&1") == 0;
-        qputenv("SYNC_TEST_NETNS", available ? "1" : "0");
-        if (available) {
-            std::vector<char*> args{const_cast<char*>("unshare"), const_cast<char*>("-rn"),
-                                    const_cast<char*>("sh"), const_cast<char*>("-c"),
-                                    const_cast<char*>("ip link set lo up && exec \"$0\" \"$@\"")};
-            for (int i = 0; i < argc; ++i)
-                args.push_back(argv[i]);
-            args.push_back(nullptr);
-            ::execvp("unshare", args.data());
-            qputenv("SYNC_TEST_NETNS", "0");
-        }
-    }
+    NetNamespace::enterPrivateNetwork(argc, argv);
     QApplication app(argc, argv);
     tst_VIGenInstrument test;
     return QTest::qExec(&test, argc, argv);

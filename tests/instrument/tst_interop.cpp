@@ -1,7 +1,7 @@
 // Other VXI-11 clients against the simulator, so that a fault shared by our client and our
 // server (both use one message layer) can't hide: Debian's pyvisa-py and lxi-tools ask for
 // "*IDN?" and "FREQ?" inside the private network namespace, through the portmapper on port 111.
-#include "../visa/NetNamespace.h"
+#include "../NetNamespace.h"
 #include "SimProcess.h"
 
 #include <QFileInfo>

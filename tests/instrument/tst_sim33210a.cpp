@@ -1,6 +1,6 @@
 // The sim33210a executable as a test or host starts it: ready line, clean stop, the command
 // log, several links, malformed RPC, and each fault flag as our VISA library sees it.
-#include "../visa/NetNamespace.h"
+#include "../NetNamespace.h"
 #include "SimProcess.h"
 #include "visa.h"
 

@@ -12,6 +12,8 @@
 
 #include <functional>
 
+using ButtonTexts = QMap<int, QString>;
+
 namespace {
 
 QString resourceText(const QString& path)
@@ -74,27 +76,27 @@ void tst_Messages::cleanup()
 void tst_Messages::labelsAndStyle_data()
 {
     QTest::addColumn<QString>("theme");
-    QTest::addColumn<QMap<int, QString>>("texts");
+    QTest::addColumn<ButtonTexts>("texts");
     QTest::addColumn<QString>("yes");
     QTest::addColumn<QString>("cancel");
     QTest::addColumn<QString>("style");
 
     QTest::newRow("no texts: host's Cancel, native style")
-        << "light" << QMap<int, QString>() << "&Yes" << "Cancel" << "://ui-native-light.css";
+        << "light" << ButtonTexts() << "&Yes" << "Cancel" << "://ui-native-light.css";
     QTest::newRow("Yes replaced: message box style, theme name case-blind")
-        << "DARK" << QMap<int, QString>{{QMessageBox::Yes, "Save all"}} << "Save all" << "Cancel"
+        << "DARK" << ButtonTexts{{QMessageBox::Yes, "Save all"}} << "Save all" << "Cancel"
         << "://ui-messageBox-dark.css";
     QTest::newRow("Cancel entry wins")
-        << "light" << QMap<int, QString>{{QMessageBox::Cancel, "Back"}} << "&Yes" << "Back"
+        << "light" << ButtonTexts{{QMessageBox::Cancel, "Back"}} << "&Yes" << "Back"
         << "://ui-messageBox-light.css";
     QTest::newRow("unknown theme is light")
-        << "blue" << QMap<int, QString>() << "&Yes" << "Cancel" << "://ui-native-light.css";
+        << "blue" << ButtonTexts() << "&Yes" << "Cancel" << "://ui-native-light.css";
 }
 
 void tst_Messages::labelsAndStyle()
 {
     QFETCH(QString, theme);
-    QFETCH(QMap<int, QString>, texts);
+    QFETCH(ButtonTexts, texts);
     QFETCH(QString, yes);
     QFETCH(QString, cancel);
     QFETCH(QString, style);

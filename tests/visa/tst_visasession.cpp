@@ -1,7 +1,7 @@
 // The VISA entry points against a scripted VXI-11 server on loopback: the read loop, the error
 // mapping, and what a slow or broken instrument must never do to the next call.
 #include "FakeVxi11Server.h"
-#include "NetNamespace.h"
+#include "../NetNamespace.h"
 #include "visa.h"
 
 #include <QtTest>
