@@ -8,7 +8,7 @@ bash tools/setup.sh
 bash tools/build.sh "$root/build"
 
 host="$root/build/host/tarvix4host"
-scenario="$root/host/scenarios/four-cameras.json"
+scenario="$root/host/scenarios/demo.json"
 shots="$root/out/demo"
 mkdir -p "$shots"
 
