@@ -8,16 +8,10 @@
 #include <QSet>
 #include <QString>
 
+#include "FuzzCheck.h"
+
 #include <cstdint>
 #include <cstdlib>
-
-namespace {
-void check(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -17,6 +17,8 @@
 #include "SimOptions.h"
 #include "Vxi11Messages.h"
 
+#include "FuzzCheck.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -24,11 +26,6 @@
 
 namespace {
 
-void check(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 struct Sim
 {

@@ -10,18 +10,16 @@
 #include <QList>
 #include <QString>
 
+#include <algorithm>
 #include <cmath>
+#include "FuzzCheck.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
 namespace {
 
-void check(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 template <typename T>
 T take(const uint8_t *&data, size_t &size)
@@ -74,13 +72,14 @@ void numbers(double a, double b, quint32 u, qint32 i)
             check(std::isnan(rounded));
             continue;
         }
-        if (std::isfinite(a) && std::fabs(a) < 1e300 && digits < 300) {
-            check(std::isfinite(rounded));
-            // Rounding moves a value by at most half a step.
-            const double step = std::pow(10.0, -double(digits == 0 ? 0 : digits - 1));
-            check(std::fabs(rounded - a) <= step / 2 + std::fabs(a) * 1e-12);
-            if (std::fabs(a) < 1e15)
-                check(std::fabs(fraction - a) <= step / 2 + std::fabs(a) * 1e-12 + 1e-300);
+        const double factor = std::pow(10.0, double(digits == 0 ? 0 : digits - 1));
+        // Rounding moves a value by at most half a step, while the scaled value stays exact
+        // enough to tell.
+        if (std::isfinite(a) && std::fabs(a) * factor < 1e15) {
+            const double slack = std::fabs(a) * 1e-12 + 1e-9 / factor;
+            check(std::fabs(rounded - a) <= 0.5 / factor + slack);
+            // The fraction is taken after the whole part, so it is only as exact as 1.0 is.
+            check(std::fabs(fraction - a) <= 0.5 / factor + slack + 1e-15 * std::max(1.0, std::fabs(a)));
         }
     }
 

@@ -10,6 +10,8 @@
 #include "RpcCodec.h"
 #include "Vxi11Messages.h"
 
+#include "FuzzCheck.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -19,11 +21,6 @@ namespace {
 
 enum Expected : uint8_t { GetPort, CreateLink, DeviceWrite, DeviceRead, DeviceClear, DestroyLink, kExpectedCount };
 
-void check(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 // Record marking read in one go over the whole stream: what the assembler must produce,
 // whatever the split. Returns false where the assembler must fail.
