@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <thread>
+#include <vector>
 
 namespace {
 constexpr size_t kMaxInput = 1024 * 1024;
@@ -58,14 +59,30 @@ void CoreService::pause(uint32_t ms)
         std::this_thread::sleep_for(std::chrono::milliseconds(std::min<uint32_t>(ms, 20)));
 }
 
+void CoreService::logLink(uint32_t linkId, const char *what)
+{
+    m_instrument.logEvent("<link " + std::to_string(linkId) + " " + what + ">");
+}
+
 void CoreService::connectionClosed(uint64_t connectionId)
 {
-    std::lock_guard<std::mutex> lock(m_mutex);
-    for (auto it = m_links.begin(); it != m_links.end();) {
-        if (it->second.connectionId == connectionId)
-            it = m_links.erase(it);
-        else
-            ++it;
+    std::vector<uint32_t> lost;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        for (auto it = m_links.begin(); it != m_links.end();) {
+            if (it->second.connectionId == connectionId) {
+                lost.push_back(it->first);
+                it = m_links.erase(it);
+            } else {
+                ++it;
+            }
+        }
+    }
+    // Links still open when the simulator stops are not logged as lost: the log then shows
+    // them open, which is what a test looks for.
+    if (!m_stopping) {
+        for (const uint32_t linkId : lost)
+            logLink(linkId, "lost");
     }
 }
 
@@ -117,15 +134,19 @@ RpcHandler::Action CoreService::createLink(uint64_t connectionId, const uint8_t 
         return silent();
     vxi11::CreateLinkResp resp;
     resp.maxRecvSize = m_options.maxRecvSize;
-    std::lock_guard<std::mutex> lock(m_mutex);
-    if (parms.device.rfind("inst", 0) != 0 && parms.device.rfind("gpib", 0) != 0) {
-        resp.error = vxi11::InvalidAddress;
-    } else if (m_links.size() >= m_options.maxLinks) {
-        resp.error = vxi11::OutOfResources;
-    } else {
-        resp.linkId = m_nextLinkId++;
-        m_links[resp.linkId].connectionId = connectionId;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (parms.device.rfind("inst", 0) != 0 && parms.device.rfind("gpib", 0) != 0) {
+            resp.error = vxi11::InvalidAddress;
+        } else if (m_links.size() >= m_options.maxLinks) {
+            resp.error = vxi11::OutOfResources;
+        } else {
+            resp.linkId = m_nextLinkId++;
+            m_links[resp.linkId].connectionId = connectionId;
+        }
     }
+    if (resp.error == vxi11::NoError)
+        logLink(resp.linkId, "open");
     return reply(vxi11::encode(resp));
 }
 
@@ -248,7 +269,13 @@ RpcHandler::Action CoreService::destroyLink(const uint8_t *args, size_t size)
     uint32_t linkId = 0;
     if (!vxi11::decodeUint(args, size, linkId))
         return garbageArgs();
-    std::lock_guard<std::mutex> lock(m_mutex);
-    const int32_t error = m_links.erase(linkId) ? vxi11::NoError : vxi11::InvalidLinkIdentifier;
+    int32_t error = vxi11::InvalidLinkIdentifier;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_links.erase(linkId))
+            error = vxi11::NoError;
+    }
+    if (error == vxi11::NoError)
+        logLink(linkId, "closed");
     return reply(vxi11::encodeError(error));
 }

@@ -38,6 +38,8 @@ private:
     RpcHandler::Action genericCall(uint32_t procedure, const uint8_t *args, size_t size);
     RpcHandler::Action destroyLink(const uint8_t *args, size_t size);
     void pause(uint32_t ms);
+    // "<link N open>", "<link N closed>" (destroy_link), "<link N lost>" (connection closed).
+    void logLink(uint32_t linkId, const char *what);
 
     SimOptions m_options;
     ScpiInstrument &m_instrument;

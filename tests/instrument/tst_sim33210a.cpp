@@ -71,6 +71,7 @@ private slots:
     void cleanup();
     void announcesPortsAndStopsOnSigterm();
     void logsTheSetupSequenceInOrder();
+    void logsLinksLostWithTheirConnection();
     void servesSeveralLinks();
     void survivesMalformedRpc_data();
     void survivesMalformedRpc();
@@ -129,7 +130,29 @@ void tst_Sim33210a::logsTheSetupSequenceInOrder()
     QCOMPARE(sim.stop(), 0);
     QFile file(log);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("*RST\n<device clear>\nFREQ 4000\nFREQ?\n"));
+    QCOMPARE(file.readAll(), QByteArray("<link 1 open>\n*RST\n<device clear>\nFREQ 4000\nFREQ?\n"
+                                         "<link 1 closed>\n"));
+}
+
+// A test counts the links left open from the log alone: a link whose connection ends without
+// destroy_link must show as lost, and one still open at the stop must not.
+void tst_Sim33210a::logsLinksLostWithTheirConnection()
+{
+    const QString log = m_dir.filePath("links.log");
+    SimProcess sim;
+    QVERIFY(sim.start({"--log", log, "--drop-mid-reply"}));
+    ViSession dropped = 0;
+    ViSession kept = 0;
+    QCOMPARE(openInstrument(m_rm, dropped), VI_SUCCESS);
+    QCOMPARE(openInstrument(m_rm, kept), VI_SUCCESS);
+    QByteArray reply;
+    QCOMPARE(query(dropped, "FREQ?\n", reply), VI_ERROR_CONN_LOST);
+    QCOMPARE(sim.stop(), 0);
+    viClose(dropped);
+    viClose(kept);
+    QFile file(log);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("<link 1 open>\n<link 2 open>\nFREQ?\n<link 1 lost>\n"));
 }
 
 void tst_Sim33210a::servesSeveralLinks()
