@@ -21,9 +21,10 @@ if ! [[ "$SECONDS_EACH" =~ ^[0-9]+$ ]] || [ "$SECONDS_EACH" -lt 1 ]; then
 fi
 
 echo "== fuzz: configuring and building in $BUILD"
+mkdir -p "$BUILD"
 if ! cmake -S "$ROOT" -B "$BUILD" -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
-        -DSYNC_FUZZ=ON >"$BUILD.configure.log" 2>&1; then
-    cat "$BUILD.configure.log" >&2
+        -DSYNC_FUZZ=ON >"$BUILD/configure.log" 2>&1; then
+    cat "$BUILD/configure.log" >&2
     echo "fuzz: configuring failed" >&2
     exit 1
 fi
