@@ -9,16 +9,22 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+HST_Options pressOptions(const QByteArray& scenario, const QString& prefsFile)
+{
+    HST_Options options;
+    options.scenarioJson = scenario;
+    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
+    options.prefsFile = prefsFile;
+    options.press = QStringLiteral("synccontrol");
+    options.quit = true;
+    return options;
+}
+
 int runSyncDialog(const QByteArray& scenario, const std::function<void(QDialog*)>& check,
                   QList<QJsonObject>* record)
 {
     QTemporaryDir dir;
-    HST_Options options;
-    options.scenarioJson = scenario;
-    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
-    options.prefsFile = dir.filePath(QStringLiteral("prefs.ini"));
-    options.press = QStringLiteral("synccontrol");
-    options.quit = true;
+    const HST_Options options = pressOptions(scenario, dir.filePath(QStringLiteral("prefs.ini")));
 
     // A timer does not fire again while its own slot runs, so boxes that come up during the
     // check are answered by a second one.

@@ -1,3 +1,5 @@
+#include "SyncDialogRun.h"
+
 #include "host/HST_Application.h"
 #include "host/HST_Recorder.h"
 
@@ -109,12 +111,7 @@ void tst_Preconditions::refusals()
     QFETCH(bool, okEnabled);
 
     QTemporaryDir dir;
-    HST_Options options;
-    options.scenarioJson = world;
-    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
-    options.prefsFile = dir.filePath(QStringLiteral("prefs.ini"));
-    options.press = QStringLiteral("synccontrol");
-    options.quit = true;
+    HST_Options options = pressOptions(world, dir.filePath(QStringLiteral("prefs.ini")));
     options.stepTimeoutMs = 1500;
     QJsonArray steps;
     if (warning)

@@ -1,3 +1,5 @@
+#include "SyncDialogRun.h"
+
 #include "host/HST_Application.h"
 #include "host/HST_Recorder.h"
 
@@ -39,14 +41,9 @@ tst_SyncExecution::Run tst_SyncExecution::run(const QByteArray& scenario, const 
                                                const QStringList& clicks)
 {
     QTemporaryDir dir;
-    HST_Options options;
-    options.scenarioJson = scenario;
-    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
-    options.prefsFile = dir.filePath(QStringLiteral("prefs.ini"));
-    options.press = QStringLiteral("synccontrol");
+    HST_Options options = pressOptions(scenario, dir.filePath(QStringLiteral("prefs.ini")));
     options.steps = steps;
     options.answers = clicks;
-    options.quit = true;
     options.stepTimeoutMs = 3000;
     HST_Application application(options);
     Run result;

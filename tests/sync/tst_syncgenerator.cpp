@@ -1,4 +1,5 @@
 #include "../NetNamespace.h"
+#include "SyncDialogRun.h"
 
 #include "host/HST_Application.h"
 #include "host/HST_Recorder.h"
@@ -69,13 +70,8 @@ QByteArray tst_SyncGenerator::scenario(const QString& generatorOptions) const
 
 QList<QJsonObject> tst_SyncGenerator::run(const QByteArray& world, const QJsonArray& steps)
 {
-    HST_Options options;
-    options.scenarioJson = world;
-    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
-    options.prefsFile = m_dir->filePath(QStringLiteral("prefs.ini"));
-    options.press = QStringLiteral("synccontrol");
+    HST_Options options = pressOptions(world, m_dir->filePath(QStringLiteral("prefs.ini")));
     options.steps = steps;
-    options.quit = true;
     options.stepTimeoutMs = 8000;
     HST_Application application(options);
     const int code = application.run();
@@ -119,14 +115,10 @@ void tst_SyncGenerator::generatorGoneIsSkippedSilently()
     const QString marker = m_dir->filePath(QStringLiteral("commands.log"));
     qputenv("SYNC_VISA_TIMEOUT_MS", "500");
     const QList<QJsonObject> events = [&] {
-        HST_Options options;
-        options.scenarioJson = scenario();
-        options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
-        options.prefsFile = m_dir->filePath(QStringLiteral("prefs.ini"));
-        options.press = QStringLiteral("synccontrol");
+        HST_Options options =
+            pressOptions(scenario(), m_dir->filePath(QStringLiteral("prefs.ini")));
         options.answers = QStringList{QStringLiteral("Sync execute"), QStringLiteral("OK"),
                            QStringLiteral("OK"), QStringLiteral("Sync quit")};
-        options.quit = true;
         options.stepTimeoutMs = 15000;
         HST_Application application(options);
         // Freeze the instrument once the dialog has shown it connected. Only this test's
