@@ -5,6 +5,7 @@
 //
 // Input: [expected call] [split size] [stream...]
 
+#include "FormatIo.h"
 #include "RecordAssembler.h"
 #include "RpcClient.h"
 #include "RpcCodec.h"
@@ -12,9 +13,11 @@
 
 #include "FuzzCheck.h"
 
+#include <cstdarg>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 #include <vector>
 
 namespace {
@@ -48,6 +51,26 @@ bool referenceRecords(const uint8_t *data, size_t size, size_t limit,
     return true;
 }
 
+// viScanf's copy of a received message into the caller's buffers, each exactly as wide as the
+// format allows: anything past it is an overflow the address sanitizer reports.
+ViStatus scanInto(const std::string *input, const char *fmt, ...)
+{
+    va_list args;
+    va_start(args, fmt);
+    const ViStatus status = FormatIo::scan(fmt, args, *input);
+    va_end(args);
+    return status;
+}
+
+void scanMessage(const std::vector<uint8_t> &data)
+{
+    const std::string message(data.begin(), data.end());
+    std::vector<char> whole(1024), word(FormatIo::kDefaultWidth), small(4), tiny(1);
+    check(scanInto(&message, "%1024t", whole.data()) == VI_SUCCESS);
+    check(scanInto(&message, "%s", word.data()) == VI_SUCCESS);
+    check(scanInto(&message, "%4s,%1t", small.data(), tiny.data()) == VI_SUCCESS);
+}
+
 template <typename Message>
 void roundTrip(const std::vector<uint8_t> &results)
 {
@@ -79,8 +102,10 @@ void takeResults(Expected expected, const std::vector<uint8_t> &results)
         break;
     case DeviceRead: {
         vxi11::ReadResp resp;
-        if (vxi11::decode(results.data(), results.size(), resp))
+        if (vxi11::decode(results.data(), results.size(), resp)) {
             check(resp.data.size() <= vxi11::kMaxData && resp.data.size() + 12 <= results.size());
+            scanMessage(resp.data);
+        }
         roundTrip<vxi11::ReadResp>(results);
         break;
     }
