@@ -20,6 +20,10 @@ public:
 
     // Host operation (by name) that throws APP_Exception while set.
     QString failing;
+    // What mdiWidget gives.
+    QObject* mdi = nullptr;
+
+    QObject* mdiWidget() override { return mdi; }
 
     void reportException(const std::exception& e) override
     {

@@ -28,6 +28,8 @@ private slots:
     void leavingQrcIsRefused_data();
     void leavingQrcIsRefused();
     void closeButtonMeansCancel();
+    void objectElementEmbedsHostWidget_data();
+    void objectElementEmbedsHostWidget();
 
 private:
     bool openDialog();
@@ -193,6 +195,37 @@ void tst_WebDialog::closeButtonMeansCancel()
     const auto modal = m_recorder->events(QStringLiteral("modal"));
     QCOMPARE(modal.size(), 2);
     QCOMPARE(modal.last().value(QStringLiteral("op")).toString(), QStringLiteral("end"));
+}
+
+void tst_WebDialog::objectElementEmbedsHostWidget_data()
+{
+    QTest::addColumn<QString>("classid");
+    QTest::addColumn<bool>("embedded");
+    QTest::newRow("mdi is the host's MDI widget") << "mdi" << true;
+    QTest::newRow("a plug-in the host lacks stays empty") << "histogram" << false;
+    QTest::newRow("an unknown class stays empty") << "nothing" << false;
+}
+
+void tst_WebDialog::objectElementEmbedsHostWidget()
+{
+    QFETCH(QString, classid);
+    QFETCH(bool, embedded);
+    QPointer<QWidget> mdi = new QWidget;
+    m_host->mdi = mdi;
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+    run(QStringLiteral("var o = document.createElement('object');"
+                       " o.type = 'application/x-qt-plugin'; o.setAttribute('classid', '%1');"
+                       " o.width = 40; o.height = 40; document.body.appendChild(o);"
+                       " o.offsetWidth")
+            .arg(classid));
+    // Embedding makes the widget a child of the view.
+    QTRY_COMPARE_WITH_TIMEOUT(mdi && mdi->parent() != nullptr, embedded, 2000);
+    if (!embedded)
+        QTest::qWait(100);
+    QCOMPARE(mdi && mdi->parent() != nullptr, embedded);
+    m_dialog.reset();
+    delete mdi;
 }
 
 QTEST_MAIN(tst_WebDialog)
