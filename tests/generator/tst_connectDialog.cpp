@@ -158,8 +158,8 @@ void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
     const QString steps = m_dir.filePath(QStringLiteral("steps.json"));
     QFile stepsFile(steps);
     QVERIFY(stepsFile.open(QIODevice::WriteOnly));
-    // The page is only complete after its load; the first step waits for jQuery.
-    stepsFile.write(QJsonDocument(QJsonArray{QJsonObject{{"wait", 2000}}, pressOk("127.0.0.5"),
+    // The js step doesn't wait for the page's load: generous, for sanitizer builds under load.
+    stepsFile.write(QJsonDocument(QJsonArray{QJsonObject{{"wait", 5000}}, pressOk("127.0.0.5"),
                                              QJsonObject{{"click", "OK"}},
                                              js(QStringLiteral("$('#signal_generator_cancel').click()"))})
                         .toJson());
