@@ -67,6 +67,27 @@ def visa_reply():
         write("fuzz_visa_reply", name, bytes([expected, split]) + stream)
 
 
+def visa_session():
+    # flags, then one reply per call, each [length:2] [record]. An xid of 0 is replaced by the
+    # call's own.
+    def script(flags, *records):
+        return bytes([flags]) + b"".join(struct.pack(">H", len(r)) + r for r in records)
+    link = mark(reply(0, u32(0, 1, 0, 16)))
+    wrote = mark(reply(0, u32(0, 6)))
+    idn = mark(reply(0, u32(0, 4) + opaque("Maker,33210A,1,1.0\n")))
+    sessions = {
+        "session": script(0, link, wrote, idn, *[mark(reply(0, u32(0, 16)))] * 19, mark(reply(0, u32(0, 8))), idn,
+                          mark(reply(0, u32(0))), mark(reply(0, u32(0)))),
+        "session-portmapper": script(1, mark(reply(0, u32(111))), link),
+        "session-late-reply": script(8, link, wrote, mark(reply(1, u32(0, 4) + opaque("old"))) + idn),
+        "session-chunks": script(2, link, wrote, mark(reply(0, u32(0, 0) + opaque("ab"))),
+                                 mark(reply(0, u32(0, 0) + opaque(""))), idn),
+        "session-garbage": script(0, link, wrote, mark(u32(0, 7) + b"\xde\xad"), mark(reply(0, u32(0)))),
+    }
+    for name, data in sessions.items():
+        write("fuzz_visa_session", name, data)
+
+
 def sim_request():
     # [flags] [split size] [bytes]; flags & 3: 0 TCP, 1 UDP, 2 SCPI
     link = call(1, CORE, CORE_VERS, CREATE_LINK, u32(1, 0, 0) + opaque("inst0"))
@@ -133,6 +154,7 @@ def scenario():
 
 if __name__ == "__main__":
     visa_reply()
+    visa_session()
     sim_request()
     text_helpers()
     scenario()
