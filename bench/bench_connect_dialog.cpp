@@ -72,8 +72,9 @@ int main(int argc, char** argv)
 
     std::printf("connect dialog open to load-finished: cold %.1f ms, warm median %.1f ms "
                 "(aim < 100 ms)\n",
-                cold, median(warm));
-    std::printf("page-to-mediator call: %.2f us (median of 10 batches of 1000 calls, +-1 us; aim < 50 us)\n",
-                callMicros);
+        cold, median(warm));
+    std::printf("page-to-mediator call: %.2f us (median of 10 batches of 1000 calls, +-1 us; aim < "
+                "50 us)\n",
+        callMicros);
     return 0;
 }

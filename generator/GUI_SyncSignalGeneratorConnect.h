@@ -12,6 +12,5 @@ class GUI_SyncSignalGeneratorConnect : public GUI_WebViewDialog
     Q_OBJECT
 
 public:
-    GUI_SyncSignalGeneratorConnect(APP_Host* host, QWidget* parent,
-                                   DOC_SignalGenerator* generator);
+    GUI_SyncSignalGeneratorConnect(APP_Host* host, QWidget* parent, DOC_SignalGenerator* generator);
 };

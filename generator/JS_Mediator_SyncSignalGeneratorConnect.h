@@ -11,8 +11,8 @@ class JS_Mediator_SyncSignalGeneratorConnect : public JS_Mediator_Dialog
     Q_OBJECT
 
 public:
-    JS_Mediator_SyncSignalGeneratorConnect(APP_Host* host, const QString& name,
-                                           DOC_SignalGenerator* generator);
+    JS_Mediator_SyncSignalGeneratorConnect(
+        APP_Host* host, const QString& name, DOC_SignalGenerator* generator);
 
 public slots:
     // True leaves the driver connected to the address; false leaves it disconnected (or

@@ -37,13 +37,12 @@ QString HST_GeneratorSimulator::executable()
 
 QStringList HST_GeneratorSimulator::arguments(const QJsonObject& options, quint16 portmapperPort)
 {
-    QStringList args{QStringLiteral("--listen"),
-                     options.value(QStringLiteral("listen")).toString(QStringLiteral("127.0.0.1")),
-                     QStringLiteral("--portmapper-port"), QString::number(portmapperPort)};
-    const QList<QPair<const char*, const char*>> valued{
-        {"model", "--model"},       {"maker", "--maker"},         {"serial", "--serial"},
-        {"delayMs", "--delay-ms"},  {"silentAt", "--silent-at"}, {"maxLinks", "--max-links"},
-        {"log", "--log"}};
+    QStringList args { QStringLiteral("--listen"),
+        options.value(QStringLiteral("listen")).toString(QStringLiteral("127.0.0.1")),
+        QStringLiteral("--portmapper-port"), QString::number(portmapperPort) };
+    const QList<QPair<const char*, const char*>> valued { { "model", "--model" },
+        { "maker", "--maker" }, { "serial", "--serial" }, { "delayMs", "--delay-ms" },
+        { "silentAt", "--silent-at" }, { "maxLinks", "--max-links" }, { "log", "--log" } };
     for (const auto& [key, flag] : valued) {
         const QJsonValue value = options.value(QLatin1String(key));
         if (value.isString())

@@ -3,9 +3,7 @@
 #include "web/JS_Mediator_ModelessPatternDialog.h"
 
 GUI_ModelessPatternDialog::GUI_ModelessPatternDialog(APP_Host* host, const QString& title,
-                                                     const QString& url,
-                                                     JS_Mediator_ModelessPatternDialog* mediator,
-                                                     QWidget* parent)
+    const QString& url, JS_Mediator_ModelessPatternDialog* mediator, QWidget* parent)
     : GUI_WebViewDialog(host, title, url, mediator, parent)
 {
 }

@@ -12,7 +12,7 @@ class GUI_ModelessPatternDialog : public GUI_WebViewDialog
 
 public:
     GUI_ModelessPatternDialog(APP_Host* host, const QString& title, const QString& url,
-                              JS_Mediator_ModelessPatternDialog* mediator, QWidget* parent);
+        JS_Mediator_ModelessPatternDialog* mediator, QWidget* parent);
 
     // The dialog's own test whether it may close now.
     virtual bool canClose() { return true; }

@@ -13,12 +13,11 @@ bool GUI_QrcNetworkAccess::isAllowed(const QUrl& url)
     const QString scheme = url.scheme();
     // data: and about:blank never leave the process.
     return scheme == QLatin1String("qrc") || scheme == QLatin1String("data")
-           || url.toString() == QLatin1String("about:blank");
+        || url.toString() == QLatin1String("about:blank");
 }
 
-QNetworkReply* GUI_QrcNetworkAccess::createRequest(Operation operation,
-                                                   const QNetworkRequest& request,
-                                                   QIODevice* outgoingData)
+QNetworkReply* GUI_QrcNetworkAccess::createRequest(
+    Operation operation, const QNetworkRequest& request, QIODevice* outgoingData)
 {
     if (isAllowed(request.url()))
         return QNetworkAccessManager::createRequest(operation, request, outgoingData);

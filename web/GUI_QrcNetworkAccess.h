@@ -14,6 +14,6 @@ public:
     static bool isAllowed(const QUrl& url);
 
 protected:
-    QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request,
-                                 QIODevice* outgoingData) override;
+    QNetworkReply* createRequest(
+        Operation operation, const QNetworkRequest& request, QIODevice* outgoingData) override;
 };

@@ -18,24 +18,26 @@ GUI_WebPage::GUI_WebPage(APP_Host* host, QObject* parent)
     settings()->setAttribute(QWebSettings::PluginsEnabled, true);
 }
 
-QObject* GUI_WebPage::createPlugin(const QString& classid, const QUrl&, const QStringList&,
-                                   const QStringList&)
+QObject* GUI_WebPage::createPlugin(
+    const QString& classid, const QUrl&, const QStringList&, const QStringList&)
 {
     if (!m_host)
         return nullptr;
     try {
         if (classid == QLatin1String("mdi"))
             return m_host->mdiWidget();
-        static const QHash<QString, QString> pluginOfClass{
-            {QStringLiteral("histogram"), QStringLiteral("histogram")},
-            {QStringLiteral("lineprofile"), QStringLiteral("lineprofile")},
-            {QStringLiteral("lut"), QStringLiteral("lut")},
-            {QStringLiteral("sensorlut"), QStringLiteral("m_sensorlut")},
-            {QStringLiteral("livecontrol_hwimage_trigger_histogram"), QStringLiteral("livecontrol")},
-            {QStringLiteral("livecontrol_auto_exposure_histogram"), QStringLiteral("livecontrol")},
-            {QStringLiteral("imagetrigger_histogram"), QStringLiteral("imagetrigger")},
-            {QStringLiteral("analoggain"), QStringLiteral("m_analoggain")},
-            {QStringLiteral("focuscheck"), QStringLiteral("m_focuscheck")},
+        static const QHash<QString, QString> pluginOfClass {
+            { QStringLiteral("histogram"), QStringLiteral("histogram") },
+            { QStringLiteral("lineprofile"), QStringLiteral("lineprofile") },
+            { QStringLiteral("lut"), QStringLiteral("lut") },
+            { QStringLiteral("sensorlut"), QStringLiteral("m_sensorlut") },
+            { QStringLiteral("livecontrol_hwimage_trigger_histogram"),
+                QStringLiteral("livecontrol") },
+            { QStringLiteral("livecontrol_auto_exposure_histogram"),
+                QStringLiteral("livecontrol") },
+            { QStringLiteral("imagetrigger_histogram"), QStringLiteral("imagetrigger") },
+            { QStringLiteral("analoggain"), QStringLiteral("m_analoggain") },
+            { QStringLiteral("focuscheck"), QStringLiteral("m_focuscheck") },
         };
         const auto found = pluginOfClass.constFind(classid);
         if (found == pluginOfClass.constEnd())
@@ -51,10 +53,10 @@ QObject* GUI_WebPage::createPlugin(const QString& classid, const QUrl&, const QS
     return nullptr;
 }
 
-void GUI_WebPage::javaScriptConsoleMessage(const QString&, int, const QString&) {}
+void GUI_WebPage::javaScriptConsoleMessage(const QString&, int, const QString&) { }
 
-bool GUI_WebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest& request,
-                                          NavigationType type)
+bool GUI_WebPage::acceptNavigationRequest(
+    QWebFrame* frame, const QNetworkRequest& request, NavigationType type)
 {
     if (!GUI_QrcNetworkAccess::isAllowed(request.url())) {
         qWarning().noquote() << "page navigation refused:" << request.url().toString();

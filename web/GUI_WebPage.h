@@ -15,11 +15,11 @@ public:
 
 protected:
     QObject* createPlugin(const QString& classid, const QUrl& url, const QStringList& paramNames,
-                          const QStringList& paramValues) override;
-    void javaScriptConsoleMessage(const QString& message, int lineNumber,
-                                  const QString& sourceID) override;
-    bool acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest& request,
-                                 NavigationType type) override;
+        const QStringList& paramValues) override;
+    void javaScriptConsoleMessage(
+        const QString& message, int lineNumber, const QString& sourceID) override;
+    bool acceptNavigationRequest(
+        QWebFrame* frame, const QNetworkRequest& request, NavigationType type) override;
 
 private:
     APP_Host* m_host;

@@ -13,9 +13,9 @@
 #include <QVBoxLayout>
 
 GUI_WebViewDialog::GUI_WebViewDialog(APP_Host* host, const QString& title, const QString& url,
-                                     JS_Mediator_Dialog* mediator, QWidget* parent)
-    : GUI_Dialog(parent,
-                 Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint, true)
+    JS_Mediator_Dialog* mediator, QWidget* parent)
+    : GUI_Dialog(
+        parent, Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint, true)
     , m_host(host)
     , m_mediator(mediator)
     , m_layout(new QVBoxLayout)
@@ -90,12 +90,12 @@ void GUI_WebViewDialog::loadStarted()
     setWindowOpacity(0.0);
 }
 
-void GUI_WebViewDialog::loadProgress(int) {}
+void GUI_WebViewDialog::loadProgress(int) { }
 
 void GUI_WebViewDialog::loadFinished(bool ok)
 {
     SYNC_TRACE(QStringLiteral("GUI_WebViewDialog::loadFinished"),
-               FunctionLogGuard::parameter(QStringLiteral("ok"), ok));
+        FunctionLogGuard::parameter(QStringLiteral("ok"), ok));
     UTL_Messages::centerOnScreen(m_host, this);
     auto* fadeIn = new QPropertyAnimation(this, "windowOpacity", this);
     fadeIn->setDuration(500);

@@ -20,7 +20,7 @@ class GUI_WebViewDialog : public GUI_Dialog
 public:
     // Takes the mediator. The title is a source text, translated by the host.
     GUI_WebViewDialog(APP_Host* host, const QString& title, const QString& url,
-                      JS_Mediator_Dialog* mediator, QWidget* parent);
+        JS_Mediator_Dialog* mediator, QWidget* parent);
     ~GUI_WebViewDialog() override;
 
     // A further object for the page; the dialog owns it from now on.

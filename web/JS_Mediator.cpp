@@ -31,8 +31,7 @@ Result forward(JS_Mediator* mediator, Result neutral, Call call)
     return neutral;
 }
 
-template <typename Call>
-void forward(JS_Mediator* mediator, Call call)
+template <typename Call> void forward(JS_Mediator* mediator, Call call)
 {
     try {
         call();
@@ -65,16 +64,16 @@ void JS_Mediator::errorHandler(const std::exception& e)
         m_host->reportException(e);
 }
 
-void JS_Mediator::applySkipMode(int) {}
+void JS_Mediator::applySkipMode(int) { }
 
-void JS_Mediator::applySkipFrames(double) {}
+void JS_Mediator::applySkipFrames(double) { }
 
 int JS_Mediator::getSkipMode()
 {
     return 0;
 }
 
-void JS_Mediator::setSkipFrames(double) {}
+void JS_Mediator::setSkipFrames(double) { }
 
 double JS_Mediator::getSkipFrames()
 {
@@ -95,11 +94,12 @@ void JS_Mediator::addPrefsJSObject()
 void JS_Mediator::setStyle(const QString& style)
 {
     OperationEventHandler guard(this, QStringLiteral("JS_Mediator::setStyle"),
-                                FunctionLogGuard::parameter(QStringLiteral("style"), style));
+        FunctionLogGuard::parameter(QStringLiteral("style"), style));
     try {
         m_host->setPrefString(QStringLiteral("env/style"), style);
         if (QWidget* mainWindow = m_host->getMainWindow()) {
-            const auto dialogs = mainWindow->findChildren<QDialog*>(QStringLiteral("GUI_MobileDialog"));
+            const auto dialogs
+                = mainWindow->findChildren<QDialog*>(QStringLiteral("GUI_MobileDialog"));
             if (!dialogs.isEmpty())
                 UTL_Messages::setNativeStyle(m_host, dialogs.first());
         }
@@ -119,7 +119,7 @@ QString JS_Mediator::getStyle()
 void JS_Mediator::openPlugin(const QString& name)
 {
     OperationEventHandler guard(this, QStringLiteral("JS_Mediator::openPlugin"),
-                                FunctionLogGuard::parameter(QStringLiteral("name"), name));
+        FunctionLogGuard::parameter(QStringLiteral("name"), name));
     forward(this, [&] { m_host->showPage(name); });
 }
 
@@ -134,7 +134,7 @@ void JS_Mediator::closePlugin(const QString& name)
     forward(this, [this] { m_host->deterUpdateUI(true); });
     {
         OperationEventHandler guard(this, QStringLiteral("JS_Mediator::closePlugin"),
-                                    FunctionLogGuard::parameter(QStringLiteral("name"), name));
+            FunctionLogGuard::parameter(QStringLiteral("name"), name));
         forward(this, [&] { m_host->pageClosed(name); });
     }
     forward(this, [this] { m_host->deterUpdateUI(false); });
@@ -178,8 +178,8 @@ QString JS_Mediator::translate(const QString& string)
 
 QString JS_Mediator::translate(const QString& string, const QString& arg)
 {
-    return forward(this, QString(),
-                   [&] { return m_host->translate(string).arg(m_host->translate(arg)); });
+    return forward(
+        this, QString(), [&] { return m_host->translate(string).arg(m_host->translate(arg)); });
 }
 
 bool JS_Mediator::isReady()
@@ -237,14 +237,14 @@ void JS_Mediator::openAbouTarvixDialog()
     forward(this, [this] { m_host->showAbout(); });
 }
 
-void JS_Mediator::log(const QString&) {}
+void JS_Mediator::log(const QString&) { }
 
 void JS_Mediator::infoLog(const QString& msg)
 {
     qInfo().noquote() << msg;
 }
 
-void JS_Mediator::debugLog(const QString&) {}
+void JS_Mediator::debugLog(const QString&) { }
 
 void JS_Mediator::errorLog(const QString& msg)
 {
@@ -272,13 +272,12 @@ void JS_Mediator::setDisableAllQuickTool()
 }
 
 void JS_Mediator::userOperationLogWebView(const QString& url, const QString& operation,
-                                          const QString& control, const QString& id,
-                                          const QString& className, const QVariant& value)
+    const QString& control, const QString& id, const QString& className, const QVariant& value)
 {
     const bool byClass = id.isEmpty() && !className.isEmpty();
-    UserOperationLog::write(UserOperationLog::operationText(
-        url, byClass ? QStringLiteral("Class") : QStringLiteral("ID"), byClass ? className : id,
-        control, operation, value.toString()));
+    UserOperationLog::write(UserOperationLog::operationText(url,
+        byClass ? QStringLiteral("Class") : QStringLiteral("ID"), byClass ? className : id, control,
+        operation, value.toString()));
 }
 
 void JS_Mediator::userOperationErrorLog(const QString& message)
@@ -364,29 +363,30 @@ void JS_Mediator::setPref(const char* operation, const QString& name, bool updat
 
 void JS_Mediator::setPrefInt(const QString& name, int value, bool update)
 {
-    setPref("setPrefInt", name, update, [&](const QString& key) { m_host->setPrefInt(key, value); });
+    setPref(
+        "setPrefInt", name, update, [&](const QString& key) { m_host->setPrefInt(key, value); });
 }
 
 void JS_Mediator::setPrefBool(const QString& name, bool value, bool update)
 {
-    setPref("setPrefBool", name, update,
-            [&](const QString& key) { m_host->setPrefBool(key, value); });
+    setPref(
+        "setPrefBool", name, update, [&](const QString& key) { m_host->setPrefBool(key, value); });
 }
 
 void JS_Mediator::setPrefFloat(const QString& name, float value, bool update)
 {
     setPref("setPrefFloat", name, update,
-            [&](const QString& key) { m_host->setPrefFloat(key, value); });
+        [&](const QString& key) { m_host->setPrefFloat(key, value); });
 }
 
 void JS_Mediator::setPrefString(const QString& name, const QString& value, bool update)
 {
     setPref("setPrefString", name, update,
-            [&](const QString& key) { m_host->setPrefString(key, value); });
+        [&](const QString& key) { m_host->setPrefString(key, value); });
 }
 
 void JS_Mediator::setPrefDQString(const QString& name, const QString& value, bool update)
 {
     setPref("setPrefDQString", name, update,
-            [&](const QString& key) { m_host->setPrefVariant(key, value); });
+        [&](const QString& key) { m_host->setPrefVariant(key, value); });
 }

@@ -81,8 +81,7 @@ public slots:
     bool isUpdateIgnore();
     void setDisableAllQuickTool();
     void userOperationLogWebView(const QString& url, const QString& operation,
-                                 const QString& control, const QString& id,
-                                 const QString& className, const QVariant& value);
+        const QString& control, const QString& id, const QString& className, const QVariant& value);
     void userOperationErrorLog(const QString& message);
     int countMdiWindow(bool visible = true);
     bool isRostraRunning();

@@ -21,8 +21,8 @@ public slots:
     int getWidth() { return m_width; }
 
 protected:
-    virtual void dialogOpened() {}
-    virtual void dialogClosed() {}
+    virtual void dialogOpened() { }
+    virtual void dialogClosed() { }
 
     int m_height = -1;
     int m_width = -1;

@@ -2,8 +2,8 @@
 
 #include "plugin/APP_Host.h"
 
-JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(APP_Host* host,
-                                                                     const QString& name)
+JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(
+    APP_Host* host, const QString& name)
     : JS_Mediator_Dialog(host, name)
 {
 }

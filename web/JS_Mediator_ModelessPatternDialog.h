@@ -12,7 +12,7 @@ public:
     JS_Mediator_ModelessPatternDialog(APP_Host* host, const QString& name);
 
 public slots:
-    virtual void onOpen() {}
-    virtual void onClose() {}
+    virtual void onOpen() { }
+    virtual void onClose() { }
     void setTextBoxFocusState(bool focus);
 };

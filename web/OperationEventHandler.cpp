@@ -4,8 +4,8 @@
 #include "util/FunctionLogGuard.h"
 #include "web/JS_Mediator.h"
 
-OperationEventHandler::OperationEventHandler(JS_Mediator* mediator, const QString& name,
-                                             const QString& parameters)
+OperationEventHandler::OperationEventHandler(
+    JS_Mediator* mediator, const QString& name, const QString& parameters)
     : m_mediator(mediator)
     , m_name(name)
     , m_parameters(FunctionLogGuard::normalized(parameters))

@@ -31,7 +31,7 @@ const QString unsupported = QStringLiteral("can not be connected because unsuppo
 
 QJsonObject js(const QString& code)
 {
-    return {{QStringLiteral("js"), code}};
+    return { { QStringLiteral("js"), code } };
 }
 
 QJsonObject pressOk(const QString& text)
@@ -80,13 +80,13 @@ void tst_ConnectDialog::okButton_data()
     QTest::newRow("empty text closes at once without traffic")
         << plain << QString() << QString() << false;
     QTest::newRow("another model keeps it open")
-        << QJsonObject{{"model", "33220A"}} << "127.0.0.1" << unsupported << true;
+        << QJsonObject { { "model", "33220A" } } << "127.0.0.1" << unsupported << true;
     QTest::newRow("text that is no address keeps it open without traffic")
         << plain << "signal" << couldNotConnect << false;
     QTest::newRow("unreachable address keeps it open")
         << plain << "127.0.0.2" << couldNotConnect << false;
     QTest::newRow("silent instrument keeps it open")
-        << QJsonObject{{"silentAt", "device_read"}} << "127.0.0.1" << couldNotConnect << true;
+        << QJsonObject { { "silentAt", "device_read" } } << "127.0.0.1" << couldNotConnect << true;
 }
 
 void tst_ConnectDialog::okButton()
@@ -100,10 +100,10 @@ void tst_ConnectDialog::okButton()
     generator.insert(QStringLiteral("log"), commandLog);
     HST_Scenario scenario;
     QString problem;
-    QVERIFY2(HST_Scenario::fromJson(
-                 QJsonDocument(QJsonObject{{"generator", generator}}).toJson(),
-                 QStringLiteral("test"), scenario, problem),
-             qPrintable(problem));
+    QVERIFY2(
+        HST_Scenario::fromJson(QJsonDocument(QJsonObject { { "generator", generator } }).toJson(),
+            QStringLiteral("test"), scenario, problem),
+        qPrintable(problem));
     HST_GeneratorSimulator simulator;
     QVERIFY2(simulator.start(scenario.generator, problem), qPrintable(problem));
 
@@ -113,9 +113,9 @@ void tst_ConnectDialog::okButton()
     DOC_VIGen driver(&host);
     QVERIFY(driver.loadLibrary());
 
-    QJsonArray steps{pressOk(text)};
+    QJsonArray steps { pressOk(text) };
     if (!warning.isEmpty()) {
-        steps.append(QJsonObject{{"click", "OK"}});
+        steps.append(QJsonObject { { "click", "OK" } });
         steps.append(js(QStringLiteral("$('#signal_generator_cancel').click()")));
     }
     HST_ScriptRunner runner(&recorder);
@@ -136,7 +136,7 @@ void tst_ConnectDialog::okButton()
     QStringList warnings;
     for (const QJsonObject& message : recorder.events(QStringLiteral("message")))
         warnings << message.value(QStringLiteral("text")).toString();
-    QCOMPARE(warnings, warning.isEmpty() ? QStringList() : QStringList{warning});
+    QCOMPARE(warnings, warning.isEmpty() ? QStringList() : QStringList { warning });
     // The page writes what was tried; putting the old value back is the caller's part.
     QString stored;
     QCOMPARE(host.getPrefString(stored, addressKey, QVariant()), text);
@@ -159,9 +159,9 @@ void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
     QFile stepsFile(steps);
     QVERIFY(stepsFile.open(QIODevice::WriteOnly));
     // The js step doesn't wait for the page's load: generous, for sanitizer builds under load.
-    stepsFile.write(QJsonDocument(QJsonArray{QJsonObject{{"wait", 5000}}, pressOk("127.0.0.5"),
-                                             QJsonObject{{"click", "OK"}},
-                                             js(QStringLiteral("$('#signal_generator_cancel').click()"))})
+    stepsFile.write(QJsonDocument(QJsonArray { QJsonObject { { "wait", 5000 } },
+                                      pressOk("127.0.0.5"), QJsonObject { { "click", "OK" } },
+                                      js(QStringLiteral("$('#signal_generator_cancel').click()")) })
                         .toJson());
     stepsFile.close();
     const QString scenario = m_dir.filePath(QStringLiteral("scenario.json"));
@@ -173,10 +173,9 @@ void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
     QProcess host;
     host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     host.start(QStringLiteral(HOST_EXECUTABLE),
-               {QStringLiteral("--scenario"), scenario,
-                QStringLiteral("--prefs"), prefs, QStringLiteral("--record"), record,
-                QStringLiteral("--script"), steps, QStringLiteral("--open-connect-dialog"),
-                QStringLiteral("--quit")});
+        { QStringLiteral("--scenario"), scenario, QStringLiteral("--prefs"), prefs,
+            QStringLiteral("--record"), record, QStringLiteral("--script"), steps,
+            QStringLiteral("--open-connect-dialog"), QStringLiteral("--quit") });
     QVERIFY(host.waitForStarted());
     QVERIFY(host.waitForFinished(60000));
     QCOMPARE(host.exitCode(), 0);
@@ -192,8 +191,8 @@ void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
         if (event.value("call") == QLatin1String("message"))
             warnings << event.value("text").toString();
     }
-    QCOMPARE(dialogEnds, QStringList{QStringLiteral("0")});
-    QCOMPARE(warnings, QStringList{couldNotConnect});
+    QCOMPARE(dialogEnds, QStringList { QStringLiteral("0") });
+    QCOMPARE(warnings, QStringList { couldNotConnect });
     QSettings stored(prefs, QSettings::IniFormat);
     QCOMPARE(stored.value(addressKey).toString(), QStringLiteral("old"));
 }

@@ -28,7 +28,7 @@ public:
     void reportException(const std::exception& e) override
     {
         recorder()->record(QStringLiteral("reportException"),
-                           {{QStringLiteral("text"), QString::fromUtf8(e.what())}});
+            { { QStringLiteral("text"), QString::fromUtf8(e.what()) } });
     }
     QString translate(const QString& sourceText, int reserved = 0) override
     {
@@ -54,14 +54,13 @@ public:
     {
         failIf("confirm");
         recorder()->record(QStringLiteral("confirm"),
-                           {{QStringLiteral("text"), text},
-                            {QStringLiteral("options"), options.size()}});
+            { { QStringLiteral("text"), text }, { QStringLiteral("options"), options.size() } });
         return true;
     }
     void showPage(const QString& name) override
     {
         failIf("showPage");
-        recorder()->record(QStringLiteral("showPage"), {{QStringLiteral("name"), name}});
+        recorder()->record(QStringLiteral("showPage"), { { QStringLiteral("name"), name } });
     }
 
 private:

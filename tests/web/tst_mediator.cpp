@@ -69,10 +69,9 @@ void tst_Mediator::hostFailureIsReported_data()
     QTest::addColumn<int>("updates");
 
     // Plain forwarders: without a handler the throw would unwind into the script engine.
-    QTest::newRow("getPrefString gives empty text")
-        << "getPrefString"
-        << Call([](JS_Mediator* m) { return QVariant(m->getPrefString(QStringLiteral("k"))); })
-        << QVariant(QString()) << 0;
+    QTest::newRow("getPrefString gives empty text") << "getPrefString" << Call([](JS_Mediator* m) {
+        return QVariant(m->getPrefString(QStringLiteral("k")));
+    }) << QVariant(QString()) << 0;
     QTest::newRow("translate gives empty text")
         << "translate" << Call([](JS_Mediator* m) { return QVariant(m->translate("x")); })
         << QVariant(QString()) << 0;
@@ -80,18 +79,18 @@ void tst_Mediator::hostFailureIsReported_data()
         << "confirm" << Call([](JS_Mediator* m) { return QVariant(m->confirm("?")); })
         << QVariant(false) << 0;
     // Guarded operations still end with their update.
-    QTest::newRow("setStyle still updates")
-        << "setPrefString"
-        << Call([](JS_Mediator* m) { m->setStyle(QStringLiteral("dark")); return QVariant(); })
-        << QVariant() << 1;
-    QTest::newRow("openPlugin still updates")
-        << "showPage"
-        << Call([](JS_Mediator* m) { m->openPlugin(QStringLiteral("lut")); return QVariant(); })
-        << QVariant() << 1;
-    QTest::newRow("setPrefInt still updates")
-        << "setPrefInt"
-        << Call([](JS_Mediator* m) { m->setPrefInt(QStringLiteral("a/b"), 3); return QVariant(); })
-        << QVariant() << 1;
+    QTest::newRow("setStyle still updates") << "setPrefString" << Call([](JS_Mediator* m) {
+        m->setStyle(QStringLiteral("dark"));
+        return QVariant();
+    }) << QVariant() << 1;
+    QTest::newRow("openPlugin still updates") << "showPage" << Call([](JS_Mediator* m) {
+        m->openPlugin(QStringLiteral("lut"));
+        return QVariant();
+    }) << QVariant() << 1;
+    QTest::newRow("setPrefInt still updates") << "setPrefInt" << Call([](JS_Mediator* m) {
+        m->setPrefInt(QStringLiteral("a/b"), 3);
+        return QVariant();
+    }) << QVariant() << 1;
 }
 
 void tst_Mediator::hostFailureIsReported()
@@ -146,19 +145,20 @@ void tst_Mediator::preferenceSetterTracing()
     else
         m_mediator->setPrefString(QStringLiteral("sync/generator/address"), "1.2.3.4");
     QCOMPARE(m_mediator->getPrefString(QStringLiteral("sync/generator/address")),
-             QStringLiteral("1.2.3.4"));
+        QStringLiteral("1.2.3.4"));
     QCOMPARE(events(QStringLiteral("updateUI")).size(), update ? 1 : 0);
     const QStringList lines = logLines();
     QCOMPARE(lines.filter(QStringLiteral("[ENTER]")).size(), update ? 1 : 0);
     QCOMPARE(lines.filter(QStringLiteral("[LEAVE]")).size(), update ? 1 : 0);
     if (update)
-        QVERIFY(lines.filter(QStringLiteral("[ENTER]")).first().contains("JS_Mediator::setPrefString"));
+        QVERIFY(
+            lines.filter(QStringLiteral("[ENTER]")).first().contains("JS_Mediator::setPrefString"));
 }
 
 void tst_Mediator::translateWithArgumentTranslatesBoth()
 {
     QCOMPARE(m_mediator->translate(QStringLiteral("Open %1"), QStringLiteral("file")),
-             QStringLiteral("T(Open T(file))"));
+        QStringLiteral("T(Open T(file))"));
 }
 
 void tst_Mediator::confirmPassesNoOptions()
@@ -175,7 +175,7 @@ void tst_Mediator::loadOfUnknownResourceWarns()
     bool warned = false;
     for (const QJsonObject& event : events(QStringLiteral("log")))
         warned |= event.value(QStringLiteral("level")) == QLatin1String("warning")
-                  && event.value(QStringLiteral("text")).toString().contains("not found");
+            && event.value(QStringLiteral("text")).toString().contains("not found");
     QVERIFY(warned);
     QVERIFY(m_mediator->load(QStringLiteral("const_pref.js")).contains("sync/generator/address"));
 }

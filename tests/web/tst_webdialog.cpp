@@ -61,8 +61,7 @@ bool tst_WebDialog::openDialog()
 {
     m_mediator = new JS_Mediator_Dialog(m_host.get(), QStringLiteral("test_dialog"));
     m_dialog.reset(new GUI_WebViewDialog(m_host.get(), QStringLiteral("Bridge"),
-                                         QStringLiteral("qrc:/webtest/bridge.html"), m_mediator,
-                                         nullptr));
+        QStringLiteral("qrc:/webtest/bridge.html"), m_mediator, nullptr));
     QSignalSpy loaded(m_dialog->webView(), &QWebView::loadFinished);
     return loaded.wait(10000) && loaded.first().first().toBool();
 }
@@ -84,17 +83,20 @@ void tst_WebDialog::pageGetsPlainValues_data()
 {
     QTest::addColumn<QString>("expression");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("int preference is a number")
-        << "test_dialog.getPrefInt('t/int', 0)" << "number:7";
-    QTest::newRow("bool preference is a boolean")
-        << "test_dialog.getPrefBool('t/bool', false)" << "boolean:true";
+    QTest::newRow("int preference is a number") << "test_dialog.getPrefInt('t/int', 0)"
+                                                << "number:7";
+    QTest::newRow("bool preference is a boolean") << "test_dialog.getPrefBool('t/bool', false)"
+                                                  << "boolean:true";
     QTest::newRow("string preference without default is a string")
-        << "test_dialog.getPrefString('t/text')" << "string:abc";
+        << "test_dialog.getPrefString('t/text')"
+        << "string:abc";
     QTest::newRow("host default fills an invalid default")
-        << "test_dialog.getPrefString(PREF_KEY_ENV_STYLE)" << "string:light";
-    QTest::newRow("unset height is -1") << "test_dialog.getHeight()" << "number:-1";
-    QTest::newRow("translation comes back as text")
-        << "test_dialog.translate('Open %1', 'file')" << "string:T(Open T(file))";
+        << "test_dialog.getPrefString(PREF_KEY_ENV_STYLE)"
+        << "string:light";
+    QTest::newRow("unset height is -1") << "test_dialog.getHeight()"
+                                        << "number:-1";
+    QTest::newRow("translation comes back as text") << "test_dialog.translate('Open %1', 'file')"
+                                                    << "string:T(Open T(file))";
 }
 
 void tst_WebDialog::pageGetsPlainValues()
@@ -106,7 +108,7 @@ void tst_WebDialog::pageGetsPlainValues()
     m_host->setPrefString(QStringLiteral("t/text"), QStringLiteral("abc"));
     QCOMPARE(run(QStringLiteral("(function(v){return typeof v + ':' + v;})(%1)").arg(expression))
                  .toString(),
-             expected);
+        expected);
 }
 
 void tst_WebDialog::publishedAgainAfterReload()
@@ -117,16 +119,18 @@ void tst_WebDialog::publishedAgainAfterReload()
     QVERIFY(loaded.wait(10000));
     QCOMPARE(run(QStringLiteral("freshWindow")).toBool(), true);
     QCOMPARE(run(QStringLiteral("typeof test_dialog.getPrefString")).toString(),
-             QStringLiteral("function"));
+        QStringLiteral("function"));
     QCOMPARE(run(QStringLiteral("test_dialog.getWidth()")).toInt(), -1);
 }
 
 void tst_WebDialog::failingCallLeavesPageRunning()
 {
     m_host->failing = QStringLiteral("getPrefString");
-    const QString result = run(QStringLiteral(
-        "var r; try { r = '[' + test_dialog.getPrefString('k') + ']'; } catch (e) { r = 'threw'; }"
-        " r + ' then ' + test_dialog.getHeight()")).toString();
+    const QString result
+        = run(QStringLiteral("var r; try { r = '[' + test_dialog.getPrefString('k') + ']'; } catch "
+                             "(e) { r = 'threw'; }"
+                             " r + ' then ' + test_dialog.getHeight()"))
+              .toString();
     QCOMPARE(result, QStringLiteral("[] then -1"));
     QCOMPARE(m_recorder->events(QStringLiteral("reportException")).size(), 1);
 }
@@ -135,15 +139,15 @@ void tst_WebDialog::localizeAndOperationLogSeeElements()
 {
     run(QStringLiteral("tarvix4func.localize(test_dialog)"));
     QCOMPARE(run(QStringLiteral("$('#lbl').text() + '|' + $('#btn').val()")).toString(),
-             QStringLiteral("T(Address)|T(OK)"));
+        QStringLiteral("T(Address)|T(OK)"));
 
     run(QStringLiteral("tarvix4func.enableUserOperationLog(test_dialog);"
                        "$('#btn').click(); $('#txt').val('1.2.3.4').change()"));
     const QStringList user = logLines().filter(QStringLiteral("[USER]"));
     QCOMPARE(user.size(), 2);
     QVERIFY2(user[0].contains("[ID:btn]") && user[0].contains("clicked"), qPrintable(user[0]));
-    QVERIFY2(user[1].contains("[ID:txt]") && user[1].contains("[Value:1.2.3.4]"),
-             qPrintable(user[1]));
+    QVERIFY2(
+        user[1].contains("[ID:txt]") && user[1].contains("[Value:1.2.3.4]"), qPrintable(user[1]));
     QVERIFY(user[0].contains("qrc:/webtest/bridge.html"));
 }
 
@@ -151,8 +155,8 @@ void tst_WebDialog::leavingQrcIsRefused_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("logged");
-    QTest::newRow("assigning the location")
-        << "window.location.href = 'http://127.0.0.1:47101/x'" << "navigation refused";
+    QTest::newRow("assigning the location") << "window.location.href = 'http://127.0.0.1:47101/x'"
+                                            << "navigation refused";
     QTest::newRow("following a link") << "document.getElementById('away').click()"
                                       << "navigation refused";
     // A high port: WebKit itself blocks well-known ones such as 9 before any request is made.
@@ -163,8 +167,8 @@ void tst_WebDialog::leavingQrcIsRefused_data()
     QTest::newRow("a request by script")
         << "var x = new XMLHttpRequest(); x.open('GET', 'http://127.0.0.1:47101/x'); x.send()"
         << "request refused";
-    QTest::newRow("a file of the machine")
-        << "window.location.href = 'file:///etc/hostname'" << "navigation refused";
+    QTest::newRow("a file of the machine") << "window.location.href = 'file:///etc/hostname'"
+                                           << "navigation refused";
 }
 
 void tst_WebDialog::leavingQrcIsRefused()
