@@ -124,8 +124,13 @@ void serveStream(Sim &sim, const uint8_t *data, size_t size, size_t split)
             RpcCodec::Call call;
             if (!RpcCodec::parseCall(record.data(), record.size(), call)) {
                 uint32_t xid = 0;
-                if (RpcCodec::peekXid(record.data(), record.size(), xid))
-                    RpcCodec::encodeRpcMismatch(xid);
+                if (RpcCodec::peekXid(record.data(), record.size(), xid)) {
+                    // The refusal must reach the caller as a denied reply to its own xid.
+                    const std::vector<uint8_t> refusal = RpcCodec::encodeRpcMismatch(xid);
+                    RpcCodec::Reply reply;
+                    check(RpcCodec::parseReply(refusal.data() + 4, refusal.size() - 4, reply));
+                    check(!reply.accepted && reply.xid == xid);
+                }
                 open = false;
                 break;
             }

@@ -9,6 +9,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -53,14 +54,21 @@ void address(const QString &text, quint32 number)
     check(ipToNumber(written) == number);
 
     const bool ip = isIpAddress(text);
-    const quint32 read = ipToNumber(text);
-    if (ip) {
-        const QStringList parts = text.split(QLatin1Char('.'));
+    const QStringList parts = text.split(QLatin1Char('.'));
+    if (ip)
         check(parts.size() >= 4);
+    // A plain dotted quad of octets up to 255 without leading zeros is the spelling of its number.
+    bool plain = parts.size() == 4;
+    for (const QString &part : parts) {
+        bool digits = !part.isEmpty() && part.size() <= 3 && (part.size() == 1 || part[0] != QLatin1Char('0'));
+        for (const QChar c : part)
+            digits = digits && c >= QLatin1Char('0') && c <= QLatin1Char('9');
+        plain = plain && digits && part.toUInt() <= 255;
     }
-    // A plain dotted quad of octets without leading zeros is the number's own spelling.
-    if (ip && numberToIp(read) == text)
-        check(ipToNumber(numberToIp(read)) == read);
+    if (plain) {
+        check(ip);
+        check(numberToIp(ipToNumber(text)) == text);
+    }
 }
 
 void numbers(double a, double b, quint32 u, qint32 i)
