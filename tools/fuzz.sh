@@ -41,9 +41,10 @@ mkdir -p "$RUN"
 # Sanitizer reports end the run; leaks count as crashes, but for the ones inside Qt that
 # fuzz/lsan.supp names. Their stacks reach through Qt only with slow unwinding, which costs
 # speed, so only the targets that go through such a leak get it.
-export LSAN_OPTIONS="${LSAN_OPTIONS:-suppressions=$ROOT/fuzz/lsan.supp:print_suppressions=0}"
+# The options are our own, not inherited: a caller's ASAN_OPTIONS may well switch leaks off.
+export LSAN_OPTIONS="suppressions=$ROOT/fuzz/lsan.supp:print_suppressions=0"
 SLOW_UNWIND_TARGETS="fuzz_scenario"
-export UBSAN_OPTIONS="${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}"
+export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 
 # Runs one target; writes its verdict to $RUN/<target>.result.
 run_target() {
@@ -53,7 +54,7 @@ run_target() {
     local regressions="$ROOT/fuzz/regressions/$target"
     local artifacts="$RUN/$target-artifacts/"
     mkdir -p "$artifacts"
-    local asan="${ASAN_OPTIONS:-detect_leaks=1}"
+    local asan="detect_leaks=1"
     case " $SLOW_UNWIND_TARGETS " in
         *" $target "*) asan="$asan:fast_unwind_on_malloc=0" ;;
     esac
