@@ -25,8 +25,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <functional>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -145,8 +145,7 @@ void serve(int wake, const std::vector<std::vector<uint8_t>> &replies, size_t po
 
 std::vector<uint8_t> portmapperReply(uint16_t port)
 {
-    std::vector<uint8_t> record = RpcCodec::encodeReply(0, RpcCodec::Success, vxi11::encodeUint(port));
-    return record;
+    return RpcCodec::encodeReply(0, RpcCodec::Success, vxi11::encodeUint(port));
 }
 
 } // namespace
@@ -157,7 +156,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     const uint8_t flags = data[0];
     std::vector<std::vector<uint8_t>> replies;
-    size_t portmapperReplies = 1;
+    const size_t portmapperReplies = 1;
     if (!(flags & 1))
         replies.push_back(portmapperReply(listener().port));
     for (size_t pos = 1; pos + 2 <= size && replies.size() < 32;) {
@@ -184,17 +183,23 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     {
         VisaSession session(options);
         if (session.open(resource, (flags & 4) != 0, 20) == VI_SUCCESS) {
+            // A lost connection is lost for good: every later call says so.
+            bool lost = false;
+            auto step = [&lost](ViStatus status) {
+                check(!lost || status == VI_ERROR_CONN_LOST);
+                lost = lost || status == VI_ERROR_CONN_LOST;
+            };
             const std::string query = "*IDN?\n";
-            session.write(reinterpret_cast<const uint8_t *>(query.data()), query.size(), true);
+            step(session.write(reinterpret_cast<const uint8_t *>(query.data()), query.size(), true));
             std::string message;
             const size_t keep = (flags & 8) ? 3 : 1024;
-            session.read(message, keep);
+            step(session.read(message, keep));
             check(message.size() <= keep);
             const std::string text = "DISP:TEXT \"" + std::string(300, 'x') + "\"\n";
-            session.write(reinterpret_cast<const uint8_t *>(text.data()), text.size());
-            session.read(message, keep);
+            step(session.write(reinterpret_cast<const uint8_t *>(text.data()), text.size()));
+            step(session.read(message, keep));
             check(message.size() <= keep);
-            session.clear();
+            step(session.clear());
         }
         session.close();
     }
