@@ -11,7 +11,8 @@ bash tools/build.sh "$root/build"
 
 if [ "${SYNC_TEST_SANITIZE:-1}" != 0 ]; then
     echo "== the same suite under AddressSanitizer and UndefinedBehaviorSanitizer =="
-    export ASAN_OPTIONS="detect_leaks=0:abort_on_error=0:halt_on_error=1"
+    export ASAN_OPTIONS="detect_leaks=1:halt_on_error=1"
+    export LSAN_OPTIONS="suppressions=$root/tools/lsan.supp:print_suppressions=0"
     export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
     bash tools/build.sh "$root/build-asan" -DSYNC_SANITIZE=ON
     (cd build-asan && ctest --output-on-failure -j"$(nproc)")
