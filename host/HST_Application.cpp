@@ -78,10 +78,8 @@ bool HST_Application::parseArguments(
         QStringLiteral("Save the active window at the end."), QStringLiteral("FILE"));
     const QCommandLineOption quit(QStringLiteral("quit"),
         QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
-    const QCommandLineOption openConnect(QStringLiteral("open-connect-dialog"),
-        QStringLiteral("Run the plug-in's generator connect dialog once the window shows."));
     parser.addOptions({ scenario, plugin, prefs, translations, press, script, answer, record,
-        screenshot, quit, openConnect });
+        screenshot, quit });
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return false;
@@ -106,7 +104,6 @@ bool HST_Application::parseArguments(
     options.recordFile = parser.value(record);
     options.screenshotFile = parser.value(screenshot);
     options.quit = parser.isSet(quit);
-    options.openConnectDialog = parser.isSet(openConnect);
     return true;
 }
 
@@ -132,8 +129,7 @@ HST_Application::~HST_Application()
 bool HST_Application::isInteractive() const
 {
     return m_options.press.isEmpty() && m_options.scriptFile.isEmpty() && m_options.steps.isEmpty()
-        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit
-        && !m_options.openConnectDialog;
+        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit;
 }
 
 PLG_Interface* HST_Application::plugin() const
@@ -232,11 +228,6 @@ int HST_Application::start()
     if (!m_loader->load(m_host.get(), problem))
         return refuse(PluginFailed, problem);
     m_window->addPlugin(m_loader->plugin());
-    if (m_options.openConnectDialog
-        && !QLibrary(pluginFile).resolve("synccontrolOpenGeneratorConnect"))
-        return refuse(PluginFailed,
-            QStringLiteral("%1: no synccontrolOpenGeneratorConnect for --open-connect-dialog")
-                .arg(pluginFile));
     m_started = true;
     m_recorder->record(QStringLiteral("start"),
         { { QStringLiteral("plugin"), pluginFile }, { QStringLiteral("name"), m_loader->name() },
@@ -272,22 +263,7 @@ void HST_Application::afterShow()
         m_window->press(m_options.press);
         m_pressDone = true;
     }
-    if (m_options.openConnectDialog && m_started)
-        openConnectDialog();
     checkFinished();
-}
-
-void HST_Application::openConnectDialog()
-{
-    using Entry = int (*)(APP_Host*, QWidget*);
-    const auto entry = reinterpret_cast<Entry>(
-        QLibrary(m_loader->path()).resolve("synccontrolOpenGeneratorConnect"));
-    m_recorder->record(QStringLiteral("connectDialog"), { { QStringLiteral("phase"), "begin" } });
-    m_pressDone = false;
-    const int result = entry(m_host.get(), m_window.get());
-    m_pressDone = true;
-    m_recorder->record(QStringLiteral("connectDialog"),
-        { { QStringLiteral("phase"), "end" }, { QStringLiteral("result"), result } });
 }
 
 void HST_Application::checkFinished()

@@ -35,7 +35,6 @@ struct HST_Options
     bool quit = false;
     // Run the plug-in's generator connect dialog once the window shows, as the sync dialog's
     // button will (a test entry of the plug-in file).
-    bool openConnectDialog = false;
     // --help: parseArguments leaves the help text in its error and gives true.
     bool help = false;
     int stepTimeoutMs = 10000;
@@ -86,7 +85,6 @@ private slots:
 
 private:
     int refuse(int code, const QString& message);
-    void openConnectDialog();
     void finish(int code);
     void saveScreenshot();
 

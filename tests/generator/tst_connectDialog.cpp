@@ -51,7 +51,7 @@ private slots:
     void initTestCase();
     void okButton_data();
     void okButton();
-    void hostOpensDialogFromItsCommandLine();
+    void syncDialogButtonPutsOldAddressBack();
 
 private:
     QTemporaryDir m_dir;
@@ -149,9 +149,9 @@ void tst_ConnectDialog::okButton()
     driver.disconnect();
 }
 
-// The same through the host executable: its scenario key starts the simulator, its flag reaches
-// the plug-in file's entry, and the old address returns when the dialog is cancelled.
-void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
+// The same through the host executable and the sync dialog's button: the scenario key starts
+// the simulator, and the old address returns when the dialog is cancelled.
+void tst_ConnectDialog::syncDialogButtonPutsOldAddressBack()
 {
     const QString prefs = m_dir.filePath(QStringLiteral("host.ini"));
     const QString record = m_dir.filePath(QStringLiteral("host.jsonl"));
@@ -159,15 +159,19 @@ void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
     QFile stepsFile(steps);
     QVERIFY(stepsFile.open(QIODevice::WriteOnly));
     // The js step doesn't wait for the page's load: generous, for sanitizer builds under load.
-    stepsFile.write(QJsonDocument(QJsonArray { QJsonObject { { "wait", 5000 } },
-                                      pressOk("127.0.0.5"), QJsonObject { { "click", "OK" } },
-                                      js(QStringLiteral("$('#signal_generator_cancel').click()")) })
-                        .toJson());
+    stepsFile.write(
+        QJsonDocument(QJsonArray { QJsonObject { { "click", "connect_signal_generator_button" } },
+                          QJsonObject { { "wait", 5000 } }, pressOk("127.0.0.5"),
+                          QJsonObject { { "click", "OK" } },
+                          js(QStringLiteral("$('#signal_generator_cancel').click()")),
+                          QJsonObject { { "click", "Sync quit" } } })
+            .toJson());
     stepsFile.close();
     const QString scenario = m_dir.filePath(QStringLiteral("scenario.json"));
     QFile scenarioFile(scenario);
     QVERIFY(scenarioFile.open(QIODevice::WriteOnly));
-    scenarioFile.write(R"({"generator": {}, "prefs": {"sync/generator/address": "old"}})");
+    scenarioFile.write(R"({"generator": {}, "cameras": [{}, {}],
+                           "prefs": {"sync/generator/address": "old"}})");
     scenarioFile.close();
 
     QProcess host;
@@ -175,23 +179,19 @@ void tst_ConnectDialog::hostOpensDialogFromItsCommandLine()
     host.start(QStringLiteral(HOST_EXECUTABLE),
         { QStringLiteral("--scenario"), scenario, QStringLiteral("--prefs"), prefs,
             QStringLiteral("--record"), record, QStringLiteral("--script"), steps,
-            QStringLiteral("--open-connect-dialog"), QStringLiteral("--quit") });
+            QStringLiteral("--press"), QStringLiteral("synccontrol"), QStringLiteral("--quit") });
     QVERIFY(host.waitForStarted());
     QVERIFY(host.waitForFinished(60000));
     QCOMPARE(host.exitCode(), 0);
 
     QFile recordFile(record);
     QVERIFY(recordFile.open(QIODevice::ReadOnly));
-    QStringList dialogEnds, warnings;
+    QStringList warnings;
     for (const QByteArray& line : recordFile.readAll().split('\n')) {
         const QJsonObject event = QJsonDocument::fromJson(line).object();
-        if (event.value("call") == QLatin1String("connectDialog")
-            && event.value("phase") == QLatin1String("end"))
-            dialogEnds << QString::number(event.value("result").toInt());
         if (event.value("call") == QLatin1String("message"))
             warnings << event.value("text").toString();
     }
-    QCOMPARE(dialogEnds, QStringList { QStringLiteral("0") });
     QCOMPARE(warnings, QStringList { couldNotConnect });
     QSettings stored(prefs, QSettings::IniFormat);
     QCOMPARE(stored.value(addressKey).toString(), QStringLiteral("old"));
