@@ -6,6 +6,8 @@ mapfile -t packages < <(grep -v -E '^\s*(#|$)' "$here/apt-packages.txt")
 
 missing=()
 for p in "${packages[@]}"; do
+    # A Node.js that brings its own npm (not Debian's) serves as well, and conflicts with it.
+    if [ "$p" = npm ] && command -v npm > /dev/null; then continue; fi
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
 done
 if [ "${#missing[@]}" -gt 0 ]; then
