@@ -430,7 +430,7 @@ void GUI_SyncControl::guiUpdate()
             m_blinkTimer->start();
         } else if (!pending) {
             m_blinkTimer->stop();
-            resetOkButtonStyle();
+            setOkButtonBlink(false);
         }
     }
     m_diagram->setUpdatesEnabled(true);
@@ -528,11 +528,6 @@ void GUI_SyncControl::setOkButtonBlink(bool on)
     else
         m_ui->ok_button->setStyleSheet(QStringLiteral("QPushButton#")
                                        + m_ui->ok_button->objectName());
-}
-
-void GUI_SyncControl::resetOkButtonStyle()
-{
-    setOkButtonBlink(false);
 }
 
 void GUI_SyncControl::stopBlinking()

@@ -77,7 +77,6 @@ private:
     SyncWiringDiagram::Choices diagramChoices();
     void rebuildDiagram();
     void setOkButtonBlink(bool on);
-    void resetOkButtonStyle();
     void stopBlinking();
     // Runs a slot body in the common frame: entry line, report of a std::exception, then the
     // exit line and a guiUpdate whatever happened.
