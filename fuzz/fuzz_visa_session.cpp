@@ -94,7 +94,7 @@ bool sendReply(int fd, std::vector<uint8_t> reply, uint32_t xid)
 void serveConnection(int fd, int wake, const std::vector<std::vector<uint8_t>> &replies, size_t &next,
                      size_t end)
 {
-    RecordAssembler assembler(64 * 1024);
+    RecordAssembler assembler(size_t(64) * 1024);
     std::vector<uint8_t> pending;
     uint32_t xid = 0;
     while (next < end) {
