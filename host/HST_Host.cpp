@@ -15,6 +15,7 @@
 #include <QFontDatabase>
 #include <QFutureWatcher>
 #include <QJsonArray>
+#include <QMdiArea>
 #include <QMutexLocker>
 #include <QProgressDialog>
 #include <QThread>
@@ -176,6 +177,14 @@ QWidget* HST_Host::getMainWindow()
 QWidget* HST_Host::parentWidget()
 {
     return m_mainWindow;
+}
+
+QObject* HST_Host::mdiWidget()
+{
+    m_recorder->record(QStringLiteral("mdiWidget"), {});
+    auto* area = new QMdiArea;
+    area->setObjectName(QStringLiteral("hostMdiArea"));
+    return area;
 }
 
 QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessageBox::Icon icon,

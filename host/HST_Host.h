@@ -60,6 +60,9 @@ public:
     bool isFileMode() override { return m_mode == 2; }
     QWidget* getMainWindow() override;
     QWidget* parentWidget() override;
+    // A new, empty MDI area each call: the page that embeds it takes it and deletes it with
+    // itself, so one widget can't be handed to two pages.
+    QObject* mdiWidget() override;
     // Plain objects: pages find "app" and "main", with nothing on them yet.
     QObject* scriptObject() override { return m_scriptObject; }
     QObject* mainScriptObject() override { return m_mainScriptObject; }

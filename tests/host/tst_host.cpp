@@ -39,6 +39,7 @@ private slots:
     void init();
     void cleanup();
     void documentsOfOneCameraShareIt();
+    void mdiWidgetIsFreshForEachPage();
     void applySync_data();
     void applySync();
     void busyDialogRethrowsWhatTheTaskThrew_data();
@@ -97,6 +98,18 @@ void tst_Host::documentsOfOneCameraShareIt()
     QCOMPARE(changed.count(), 1);
     QCOMPARE(host->document(keys.at(0)), nullptr);
     QCOMPARE(host->documentKeys(0).size(), 4);
+}
+
+// A page deletes the widget it embedded with itself: two pages must never share one.
+void tst_Host::mdiWidgetIsFreshForEachPage()
+{
+    auto host = makeHost(threeCameras + "}");
+    std::unique_ptr<QObject> first(host->mdiWidget());
+    std::unique_ptr<QObject> second(host->mdiWidget());
+    QVERIFY(qobject_cast<QWidget*>(first.get()));
+    QVERIFY(first != second);
+    QCOMPARE(first->parent(), nullptr);
+    QCOMPARE(m_recorder->events(QStringLiteral("mdiWidget")).size(), 2);
 }
 
 void tst_Host::applySync_data()
