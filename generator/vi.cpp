@@ -66,7 +66,7 @@ namespace vi {
 
 QByteArray libraryFileName()
 {
-    const QByteArray configured = qgetenv("SYNC_VISA_LIBRARY");
+    QByteArray configured = qgetenv("SYNC_VISA_LIBRARY");
     if (!configured.isEmpty())
         return configured;
 #if defined(Q_OS_WIN)

@@ -177,9 +177,9 @@ int HST_Application::start()
         if (!HST_ScriptRunner::parse(file.readAll(), m_options.scriptFile, steps, problem))
             return refuse(BadInput, problem);
     }
-    for (const QJsonValue& step : qAsConst(m_options.steps))
+    for (const auto& step : qAsConst(m_options.steps))
         steps.append(step);
-    for (const QJsonValue& step : HST_ScriptRunner::answerSteps(m_options.answers))
+    for (const auto& step : HST_ScriptRunner::answerSteps(m_options.answers))
         steps.append(step);
 
     const QString prefsPath

@@ -225,9 +225,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::set(
         post(this, [guarded, button, on, radio] {
             if (!guarded)
                 return;
-            if (radio && on)
-                button->click();
-            else if (button->isChecked() != on)
+            if ((radio && on) || button->isChecked() != on)
                 button->click();
         });
         return Result::Done;

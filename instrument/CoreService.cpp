@@ -9,7 +9,7 @@
 #include <vector>
 
 namespace {
-constexpr size_t kMaxInput = 1024 * 1024;
+constexpr size_t kMaxInput = size_t(1024) * 1024;
 constexpr uint32_t kMaxWaitMs = 10000;
 
 RpcHandler::Action reply(std::vector<uint8_t> results)

@@ -27,7 +27,7 @@ public:
     // Closes every socket and joins every thread.
     void stop();
 
-    static constexpr size_t kMaxRecordSize = 2 * 1024 * 1024;
+    static constexpr size_t kMaxRecordSize = size_t(2) * 1024 * 1024;
 
 private:
     struct Connection

@@ -9,7 +9,7 @@ APP_ConcurrentException::APP_ConcurrentException(const APP_ConcurrentException& 
 }
 
 APP_ConcurrentException::APP_ConcurrentException(const APP_Exception& exception)
-    : m_exception(exception)
+    : m_exception(exception) // NOLINT(bugprone-throw-keyword-missing): kept to be thrown by raise()
 {
 }
 

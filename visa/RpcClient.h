@@ -39,7 +39,7 @@ public:
     void close();
     bool isConnected() const { return m_socket.isOpen(); }
 
-    static constexpr size_t kMaxRecordSize = 4 * 1024 * 1024;
+    static constexpr size_t kMaxRecordSize = size_t(4) * 1024 * 1024;
 
 private:
     Status receiveRecord(std::vector<uint8_t> &record, const Deadline &deadline);

@@ -12,7 +12,7 @@
 
 namespace {
 constexpr ViAccessMode kExclusiveLock = 1;
-constexpr size_t kMaxKeptReply = 64 * 1024;
+constexpr size_t kMaxKeptReply = size_t(64) * 1024;
 } // namespace
 
 extern "C" {

@@ -105,7 +105,6 @@ ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
     switch (status) {
     case Vxi11Client::Status::Timeout:
         // The link stays: the late reply will be recognised by its xid and dropped.
-        break;
     case Vxi11Client::Status::Rejected:
         // A well-formed refusal of one call: the connection itself is fine.
         break;
@@ -131,7 +130,7 @@ bool VisaSession::expectsReply(const std::string &message)
     for (size_t i = 0; i < last; ++i) {
         const char c = message[i];
         if (quote)
-            quote = c == quote ? 0 : quote;
+            quote = c == quote ? '\0' : quote;
         else if (c == '"' || c == '\'')
             quote = c;
         else if (c == ';' || c == '\n')

@@ -63,7 +63,7 @@ enum ErrorCode : int32_t {
 
 // Limits on what a peer may make us hold; larger declared lengths are parse failures.
 constexpr size_t kMaxDeviceName = 256;
-constexpr size_t kMaxData = 1024 * 1024;
+constexpr size_t kMaxData = size_t(1024) * 1024;
 
 struct CreateLinkParms
 {
