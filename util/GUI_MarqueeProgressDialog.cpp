@@ -30,7 +30,10 @@ int GUI_MarqueeProgressDialog::run(RUN_ProgressThreadInterface* worker)
     worker->cancel();
     while (thread->isRunning())
         QThread::msleep(1);
-    // A no-op on a stopped thread; kept so that no thread can outlive the dialog.
+    // isRunning turns false as soon as the thread begins to finish, while it still tears down
+    // its event dispatcher; cancelling it there aborts the process. Only once it has ended is
+    // terminate the no-op it is meant to be: the guarantee that no thread outlives the dialog.
+    thread->wait();
     thread->terminate();
     reset();
     return result;

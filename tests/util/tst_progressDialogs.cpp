@@ -111,14 +111,17 @@ void tst_ProgressDialogs::marqueeCancelButton()
 
 void tst_ProgressDialogs::workerEndingBeforeExecEndsIt()
 {
-    GUI_MarqueeProgressDialog dialog(nullptr, QString(), QString(), false);
-    auto* thread = new VIGenThread([] { return false; });
-    // The worker is done before exec() starts; its reset waits in the queue.
-    QVERIFY(runGuarded(dialog, thread));
-    QVERIFY(!thread->isRunning());
-    QVERIFY(!thread->result());
-    QVERIFY(!dialog.isVisible());
-    delete thread;
+    // The worker is done before exec() starts; its reset waits in the queue. Many times over:
+    // a thread let go of while it still finishes gets cancelled mid-teardown, which aborts.
+    for (int i = 0; i < 200; ++i) {
+        GUI_MarqueeProgressDialog dialog(nullptr, QString(), QString(), false);
+        auto* thread = new VIGenThread([] { return false; });
+        QVERIFY(runGuarded(dialog, thread));
+        QVERIFY(thread->isFinished());
+        QVERIFY(!thread->result());
+        QVERIFY(!dialog.isVisible());
+        delete thread;
+    }
 }
 
 void tst_ProgressDialogs::guiThreadRunsWhileWorkerWaits()
