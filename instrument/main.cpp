@@ -1,5 +1,6 @@
 // sim33210a: the simulated generator as a process. Prints one ready line with its ports on
-// stdout, serves until SIGTERM or SIGINT, then closes every connection and exits 0.
+// stdout, serves until SIGTERM or SIGINT, then closes every connection and exits 0. The death
+// of the process that started it counts as SIGTERM.
 #include "SimOptions.h"
 #include "Simulator.h"
 
@@ -7,6 +8,8 @@
 #include <cstdio>
 #include <iostream>
 #include <string>
+
+#include <sys/prctl.h>
 
 int main(int argc, char **argv)
 {
@@ -24,6 +27,9 @@ int main(int argc, char **argv)
     sigaddset(&signals, SIGINT);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
+    // A test or host that crashes must not leave a simulator serving on, holding its output
+    // open (a test runner waits for that to close).
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
 
     Simulator simulator(options);
     if (!simulator.start(error)) {
