@@ -1,9 +1,10 @@
 #include "host/HST_Scenario.h"
 
+#include "host/HST_Json.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonParseError>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -355,14 +356,9 @@ bool HST_Scenario::fromFile(const QString& path, HST_Scenario& out, QString& err
 bool HST_Scenario::fromJson(
     const QByteArray& json, const QString& source, HST_Scenario& out, QString& error)
 {
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
-    if (parseError.error != QJsonParseError::NoError) {
-        error = QStringLiteral("%1: not JSON: %2 at offset %3")
-                    .arg(source, parseError.errorString())
-                    .arg(parseError.offset);
+    QJsonDocument document;
+    if (!HST_Json::parse(json, source, document, error))
         return false;
-    }
     if (!document.isObject()) {
         error = QStringLiteral("%1: (top level): expected an object").arg(source);
         return false;

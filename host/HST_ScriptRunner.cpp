@@ -1,5 +1,6 @@
 #include "host/HST_ScriptRunner.h"
 
+#include "host/HST_Json.h"
 #include "host/HST_Recorder.h"
 
 #include <QAbstractButton>
@@ -49,14 +50,9 @@ HST_ScriptRunner::HST_ScriptRunner(HST_Recorder* recorder, QObject* parent)
 bool HST_ScriptRunner::parse(
     const QByteArray& json, const QString& source, QJsonArray& steps, QString& error)
 {
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
-    if (parseError.error != QJsonParseError::NoError) {
-        error = QStringLiteral("%1: not JSON: %2 at offset %3")
-                    .arg(source, parseError.errorString())
-                    .arg(parseError.offset);
+    QJsonDocument document;
+    if (!HST_Json::parse(json, source, document, error))
         return false;
-    }
     if (!document.isArray()) {
         error = QStringLiteral("%1: expected a list of steps").arg(source);
         return false;

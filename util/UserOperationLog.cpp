@@ -25,6 +25,15 @@ void UserOperationLog::write(const QString& operationText)
     QMessageLogger().info() << "[USER]" << operationText;
 }
 
+void UserOperationLog::writePageOperation(const QString& url, const QString& operation,
+                                          const QString& control, const QString& id,
+                                          const QString& className, const QString& value)
+{
+    const bool byClass = id.isEmpty() && !className.isEmpty();
+    write(operationText(url, byClass ? QStringLiteral("Class") : QStringLiteral("ID"),
+                        byClass ? className : id, control, operation, value));
+}
+
 void UserOperationLog::writeError(const QString& message)
 {
     QMessageLogger().critical() << "[USER][ERROR]" << message;

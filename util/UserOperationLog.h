@@ -12,6 +12,11 @@ QString operationText(const QString& url, const QString& secondKey, const QStrin
 // Writes the "[USER]" line of one operation.
 void write(const QString& operationText);
 
+// Writes the "[USER]" line of an operation on a page element: named by its ID, or by its class
+// when it has no ID.
+void writePageOperation(const QString& url, const QString& operation, const QString& control,
+                        const QString& id, const QString& className, const QString& value);
+
 // Writes the "[USER][ERROR]" line.
 void writeError(const QString& message);
 

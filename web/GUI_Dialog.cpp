@@ -27,10 +27,7 @@ void GUI_Dialog::userOperationLogWebView(const QString& url, const QString& oper
                                          const QString& control, const QString& id,
                                          const QString& className, const QVariant& value)
 {
-    const bool byClass = id.isEmpty() && !className.isEmpty();
-    UserOperationLog::write(UserOperationLog::operationText(
-        url, byClass ? QStringLiteral("Class") : QStringLiteral("ID"), byClass ? className : id,
-        control, operation, value.toString()));
+    UserOperationLog::writePageOperation(url, operation, control, id, className, value.toString());
 }
 
 void GUI_Dialog::userOperationErrorLog(const QString& message)

@@ -274,10 +274,7 @@ void JS_Mediator::setDisableAllQuickTool()
 void JS_Mediator::userOperationLogWebView(const QString& url, const QString& operation,
     const QString& control, const QString& id, const QString& className, const QVariant& value)
 {
-    const bool byClass = id.isEmpty() && !className.isEmpty();
-    UserOperationLog::write(UserOperationLog::operationText(url,
-        byClass ? QStringLiteral("Class") : QStringLiteral("ID"), byClass ? className : id, control,
-        operation, value.toString()));
+    UserOperationLog::writePageOperation(url, operation, control, id, className, value.toString());
 }
 
 void JS_Mediator::userOperationErrorLog(const QString& message)
