@@ -1,7 +1,7 @@
 // What a malicious or broken client can send the simulated instrument: a TCP byte stream
 // (record marking, RPC calls, portmapper and core-channel arguments, SCPI inside device_write),
 // a UDP datagram to the portmapper, or SCPI text straight to the instrument. The stream is
-// handled as RpcServer::serve handles it, with the services the Simulator routes to; every
+// handled by the server's own RpcStream, with the services the Simulator routes to; every
 // reply that goes out must be one our own client can read.
 //
 // Input: [flags] [split size] [bytes...]
@@ -13,6 +13,7 @@
 #include "RecordAssembler.h"
 #include "RpcCodec.h"
 #include "RpcServer.h"
+#include "RpcStream.h"
 #include "ScpiInstrument.h"
 #include "SimOptions.h"
 #include "Vxi11Messages.h"
@@ -26,8 +27,9 @@
 
 namespace {
 
+void checkReply(const RpcCodec::Call &call, const std::vector<uint8_t> &record);
 
-struct Sim
+struct Sim : RpcHandler
 {
     explicit Sim(const SimOptions &options)
         : instrument({options.maker, options.model, options.serial, options.firmware}, nullptr)
@@ -39,9 +41,19 @@ struct Sim
         core.stop();
     }
 
-    // As Simulator::handle.
-    RpcHandler::Action handle(uint64_t connectionId, const RpcCodec::Call &call, const uint8_t *args,
-                              size_t size)
+    // As Simulator::handle, with every reply checked as it leaves.
+    Action handle(uint64_t connectionId, const RpcCodec::Call &call, const uint8_t *args,
+                  size_t size) override
+    {
+        const Action action = route(connectionId, call, args, size);
+        if (action.kind == Action::Reply)
+            checkReply(call, RpcCodec::encodeReply(call.xid, action.acceptStat, action.results));
+        return action;
+    }
+
+    void connectionClosed(uint64_t connectionId) override { core.connectionClosed(connectionId); }
+
+    Action route(uint64_t connectionId, const RpcCodec::Call &call, const uint8_t *args, size_t size)
     {
         if (call.program == vxi11::kPortmapperProgram)
             return portmapper.handle(call, args, size);
@@ -99,49 +111,38 @@ void checkReply(const RpcCodec::Call &call, const std::vector<uint8_t> &record)
     }
 }
 
-// As RpcServer::serve, with the bytes arriving split pieces at a time.
+// Every record the stream sends must read as a reply: accepted ones were checked as they
+// left, and a refusal goes to the caller's own xid.
+void checkOutgoing(const std::vector<uint8_t> &outgoing)
+{
+    RecordAssembler assembler(RpcServer::kMaxRecordSize);
+    size_t offset = 0;
+    while (offset < outgoing.size()) {
+        offset += assembler.feed(outgoing.data() + offset, outgoing.size() - offset);
+        check(!assembler.failed());
+        if (!assembler.hasRecord())
+            break;
+        const std::vector<uint8_t> body = assembler.takeRecord();
+        RpcCodec::Reply reply;
+        check(RpcCodec::parseReply(body.data(), body.size(), reply));
+    }
+    check(offset == outgoing.size() && !assembler.hasRecord());
+}
+
+// A TCP connection, with the bytes arriving split pieces at a time.
 void serveStream(Sim &sim, const uint8_t *data, size_t size, size_t split)
 {
     const uint64_t id = 1;
-    RecordAssembler assembler(RpcServer::kMaxRecordSize);
-    std::vector<uint8_t> pending;
+    RpcStream stream(sim, id, RpcServer::kMaxRecordSize);
     bool open = true;
-    size_t offset = 0;
-    while (open && offset < size) {
+    for (size_t offset = 0; open && offset < size;) {
         const size_t take = split < size - offset ? split : size - offset;
-        pending.insert(pending.end(), data + offset, data + offset + take);
+        std::vector<uint8_t> outgoing;
+        open = stream.receive(data + offset, take, outgoing);
         offset += take;
-        while (open && !pending.empty()) {
-            const size_t used = assembler.feed(pending.data(), pending.size());
-            pending.erase(pending.begin(), pending.begin() + static_cast<std::ptrdiff_t>(used));
-            if (assembler.failed()) {
-                open = false;
-                break;
-            }
-            if (!assembler.hasRecord())
-                break;
-            const std::vector<uint8_t> record = assembler.takeRecord();
-            RpcCodec::Call call;
-            if (!RpcCodec::parseCall(record.data(), record.size(), call)) {
-                uint32_t xid = 0;
-                if (RpcCodec::peekXid(record.data(), record.size(), xid)) {
-                    // The refusal must reach the caller as a denied reply to its own xid.
-                    const std::vector<uint8_t> refusal = RpcCodec::encodeRpcMismatch(xid);
-                    RpcCodec::Reply reply;
-                    check(RpcCodec::parseReply(refusal.data() + 4, refusal.size() - 4, reply));
-                    check(!reply.accepted && reply.xid == xid);
-                }
-                open = false;
-                break;
-            }
-            check(call.argsOffset <= record.size());
-            const RpcHandler::Action action =
-                sim.handle(id, call, record.data() + call.argsOffset, record.size() - call.argsOffset);
-            if (action.kind == RpcHandler::Action::Reply)
-                checkReply(call, RpcCodec::encodeReply(call.xid, action.acceptStat, action.results));
-        }
+        checkOutgoing(outgoing);
     }
-    sim.core.connectionClosed(id);
+    sim.connectionClosed(id);
     check(sim.core.openLinks() == 0);
 }
 
@@ -151,9 +152,7 @@ void serveDatagram(Sim &sim, const uint8_t *data, size_t size)
     RpcCodec::Call call;
     if (!RpcCodec::parseCall(data, size, call))
         return;
-    const RpcHandler::Action action = sim.handle(0, call, data + call.argsOffset, size - call.argsOffset);
-    if (action.kind == RpcHandler::Action::Reply)
-        checkReply(call, RpcCodec::encodeReply(call.xid, action.acceptStat, action.results));
+    sim.handle(0, call, data + call.argsOffset, size - call.argsOffset);
 }
 
 void runScpi(Sim &sim, const uint8_t *data, size_t size)

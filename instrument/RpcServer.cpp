@@ -1,6 +1,6 @@
 #include "RpcServer.h"
 
-#include "RecordAssembler.h"
+#include "RpcStream.h"
 
 #include <arpa/inet.h>
 #include <cerrno>
@@ -50,14 +50,6 @@ int bindSocket(int type, const std::string &address, uint16_t port, uint16_t &bo
     return fd;
 }
 
-// A reply whose xid matches but whose body is no RPC reply at all.
-std::vector<uint8_t> garbageRecord(uint32_t xid)
-{
-    std::vector<uint8_t> record = {uint8_t(xid >> 24), uint8_t(xid >> 16), uint8_t(xid >> 8), uint8_t(xid),
-                                   0x00, 0x00, 0x00, 0x07, 0xde, 0xad, 0xbe};
-    RecordAssembler::prependRecordMark(record);
-    return record;
-}
 } // namespace
 
 RpcServer::RpcServer(RpcHandler &handler) : m_handler(handler)
@@ -195,8 +187,7 @@ void RpcServer::acceptLoop(int listener)
 void RpcServer::serve(Connection *connection, uint64_t id)
 {
     const int fd = connection->fd;
-    RecordAssembler assembler(kMaxRecordSize);
-    std::vector<uint8_t> pending;
+    RpcStream stream(m_handler, id, kMaxRecordSize);
     bool open = true;
     // A blocking receive, woken directly by the data: stop() shuts the socket down to end it.
     while (open && !m_stopping) {
@@ -206,50 +197,8 @@ void RpcServer::serve(Connection *connection, uint64_t id)
             continue;
         if (n <= 0)
             break;
-        pending.insert(pending.end(), buffer, buffer + n);
-        // Replies to calls that arrived together leave together, in one send.
         std::vector<uint8_t> outgoing;
-        while (open && !pending.empty()) {
-            const size_t used = assembler.feed(pending.data(), pending.size());
-            pending.erase(pending.begin(), pending.begin() + static_cast<std::ptrdiff_t>(used));
-            if (assembler.failed()) {
-                open = false;
-                break;
-            }
-            if (!assembler.hasRecord())
-                break;
-            const std::vector<uint8_t> record = assembler.takeRecord();
-            RpcCodec::Call call;
-            if (!RpcCodec::parseCall(record.data(), record.size(), call)) {
-                uint32_t xid = 0;
-                // A call we can't read: tell the caller if we know who it is, then hang up.
-                if (RpcCodec::peekXid(record.data(), record.size(), xid)) {
-                    const std::vector<uint8_t> refusal = RpcCodec::encodeRpcMismatch(xid);
-                    outgoing.insert(outgoing.end(), refusal.begin(), refusal.end());
-                }
-                open = false;
-                break;
-            }
-            const RpcHandler::Action action = m_handler.handle(
-                id, call, record.data() + call.argsOffset, record.size() - call.argsOffset);
-            std::vector<uint8_t> reply;
-            switch (action.kind) {
-            case RpcHandler::Action::Reply:
-                reply = RpcCodec::encodeReply(call.xid, action.acceptStat, action.results);
-                break;
-            case RpcHandler::Action::Silent:
-                break;
-            case RpcHandler::Action::DropMidReply:
-                reply = RpcCodec::encodeReply(call.xid, action.acceptStat, action.results);
-                reply.resize(reply.size() / 2);
-                open = false;
-                break;
-            case RpcHandler::Action::Garbage:
-                reply = garbageRecord(call.xid);
-                break;
-            }
-            outgoing.insert(outgoing.end(), reply.begin(), reply.end());
-        }
+        open = stream.receive(buffer, static_cast<size_t>(n), outgoing);
         if (!outgoing.empty() && !sendRecord(fd, outgoing))
             open = false;
     }
