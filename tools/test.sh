@@ -8,18 +8,21 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$root"
 started=$SECONDS
+stage() { echo "== $1 (at $((SECONDS - started)) s)"; }
 bash tools/setup.sh
 export QT_QPA_PLATFORM=offscreen
 
+stage "build and test"
 bash tools/build.sh "$root/build"
 (cd build && ctest --output-on-failure -j"$(nproc)")
 
 if [ "${SYNC_TEST_LINT:-1}" != 0 ]; then
+    stage "lint"
     bash tools/lint.sh "$root/build"
 fi
 
 if [ "${SYNC_TEST_SANITIZE:-1}" != 0 ]; then
-    echo "== the same suite under AddressSanitizer and UndefinedBehaviorSanitizer =="
+    stage "the same suite under AddressSanitizer and UndefinedBehaviorSanitizer"
     (
         export ASAN_OPTIONS="detect_leaks=1:halt_on_error=1"
         export LSAN_OPTIONS="suppressions=$root/tools/lsan.supp:print_suppressions=0"
@@ -31,6 +34,7 @@ fi
 
 fuzz_seconds="${SYNC_TEST_FUZZ_SECONDS:-60}"
 if [ "$fuzz_seconds" != 0 ]; then
+    stage "fuzzing"
     bash tools/fuzz.sh "$fuzz_seconds"
 fi
 echo "== all tests passed in $((SECONDS - started)) s"
