@@ -1,3 +1,4 @@
+#include "../ScenarioHost.h"
 #include "host/HST_Document.h"
 #include "host/HST_Host.h"
 #include "host/HST_HubList.h"
@@ -14,15 +15,6 @@
 #include <QtTest>
 
 namespace {
-
-HST_Scenario scenarioOf(const QByteArray& json)
-{
-    HST_Scenario scenario;
-    QString error;
-    if (!HST_Scenario::fromJson(json, QStringLiteral("test"), scenario, error))
-        qFatal("%s", qPrintable(error));
-    return scenario;
-}
 
 const QByteArray threeCameras = "{\"cameras\": [{\"ip\": \"192.168.0.3\", \"documents\": 2}, "
                                 "{\"ip\": \"192.168.0.1\", \"needsErase\": true, \"recorded\": "
@@ -74,8 +66,11 @@ void tst_Host::cleanup()
 
 std::unique_ptr<HST_Host> tst_Host::makeHost(const QByteArray& json)
 {
-    return std::unique_ptr<HST_Host>(
-        new HST_Host(scenarioOf(json), m_recorder.get(), m_dir->filePath(QStringLiteral("p.ini"))));
+    QString error;
+    std::unique_ptr<HST_Host> host = makeScenarioHost(json, m_recorder.get(), *m_dir, error);
+    if (!host)
+        qFatal("%s", qPrintable(error));
+    return host;
 }
 
 void tst_Host::documentsOfOneCameraShareIt()

@@ -1,3 +1,4 @@
+#include "../ScenarioHost.h"
 #include "host/HST_Host.h"
 #include "host/HST_Recorder.h"
 #include "host/HST_Scenario.h"
@@ -98,12 +99,9 @@ void tst_AddressDialogs::init()
 {
     m_dir.reset(new QTemporaryDir);
     m_recorder.reset(new HST_Recorder);
-    HST_Scenario scenario;
     QString error;
-    QVERIFY2(HST_Scenario::fromJson(hubsJson, QStringLiteral("test"), scenario, error),
-        qPrintable(error));
-    m_host.reset(
-        new HST_Host(scenario, m_recorder.get(), m_dir->filePath(QStringLiteral("p.ini"))));
+    m_host = makeScenarioHost(hubsJson, m_recorder.get(), *m_dir, error);
+    QVERIFY2(m_host, qPrintable(error));
     // Every message box is answered; the busy dialog can only be watched.
     m_sawBusyDialog = false;
     m_answerer.setInterval(10);
