@@ -72,7 +72,7 @@ int pinToOneCpu()
     return -1;
 }
 
-void enterPrivateNetwork(char **argv)
+void enterPrivateNetwork(char** argv)
 {
     if (std::getenv("SYNC_BENCH_NETNS"))
         return;
@@ -81,18 +81,19 @@ void enterPrivateNetwork(char **argv)
         std::fprintf(stderr, "bench: needs a private network namespace (unshare -rn)\n");
         std::exit(77);
     }
-    execlp("unshare", "unshare", "-rn", "sh", "-c", "ip link set lo up && exec \"$0\" \"$@\"", argv[0],
-           argv[1], static_cast<char *>(nullptr));
+    execlp("unshare", "unshare", "-rn", "sh", "-c", "ip link set lo up && exec \"$0\" \"$@\"",
+        argv[0], argv[1], static_cast<char*>(nullptr));
     std::perror("unshare");
     std::exit(77);
 }
 
-bool measureVisa(std::vector<double> &micros)
+bool measureVisa(std::vector<double>& micros)
 {
     ViSession rm = 0;
     ViSession vi = 0;
     if (viOpenDefaultRM(&rm) != VI_SUCCESS
-        || viOpen(rm, const_cast<ViRsrc>("TCPIP0::127.0.0.1::inst0::INSTR"), VI_NO_LOCK, 0, &vi) != VI_SUCCESS)
+        || viOpen(rm, const_cast<ViRsrc>("TCPIP0::127.0.0.1::inst0::INSTR"), VI_NO_LOCK, 0, &vi)
+            != VI_SUCCESS)
         return false;
     char buffer[1024];
     for (int i = 0; i < kWarmup + kQueries; ++i) {
@@ -108,15 +109,16 @@ bool measureVisa(std::vector<double> &micros)
     return std::strncmp(buffer, "+1.00000000000000E+03", 21) == 0;
 }
 
-bool measureEcho(std::vector<double> &micros)
+bool measureEcho(std::vector<double>& micros)
 {
     const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in addr = {};
     addr.sin_family = AF_INET;
     addr.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t len = sizeof addr;
-    if (::bind(listener, reinterpret_cast<sockaddr *>(&addr), sizeof addr) != 0 || ::listen(listener, 1) != 0
-        || ::getsockname(listener, reinterpret_cast<sockaddr *>(&addr), &len) != 0)
+    if (::bind(listener, reinterpret_cast<sockaddr*>(&addr), sizeof addr) != 0
+        || ::listen(listener, 1) != 0
+        || ::getsockname(listener, reinterpret_cast<sockaddr*>(&addr), &len) != 0)
         return false;
     std::thread server([listener]() {
         const int fd = ::accept(listener, nullptr, nullptr);
@@ -133,7 +135,7 @@ bool measureEcho(std::vector<double> &micros)
     const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
     const int one = 1;
     ::setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &one, sizeof one);
-    bool ok = ::connect(fd, reinterpret_cast<sockaddr *>(&addr), sizeof addr) == 0;
+    bool ok = ::connect(fd, reinterpret_cast<sockaddr*>(&addr), sizeof addr) == 0;
     // About the size of one VXI-11 device_read call.
     char message[64] = {};
     for (int i = 0; ok && i < kWarmup + kQueries; ++i) {
@@ -154,20 +156,23 @@ bool measureEcho(std::vector<double> &micros)
     return ok;
 }
 
-bool measurePyvisa(std::vector<double> &micros)
+bool measurePyvisa(std::vector<double>& micros)
 {
-    const std::string script =
-        "import time, pyvisa\n"
-        "rm = pyvisa.ResourceManager('@py')\n"
-        "i = rm.open_resource('TCPIP0::127.0.0.1::inst0::INSTR')\n"
-        "for n in range(" + std::to_string(kWarmup + kPythonQueries) + "):\n"
-        "    t = time.perf_counter()\n"
-        "    i.query('FREQ?')\n"
-        "    d = (time.perf_counter() - t) * 1e6\n"
-        "    if n >= " + std::to_string(kWarmup) + ": print(d)\n"
-        "i.close()\n";
+    const std::string script = "import time, pyvisa\n"
+                               "rm = pyvisa.ResourceManager('@py')\n"
+                               "i = rm.open_resource('TCPIP0::127.0.0.1::inst0::INSTR')\n"
+                               "for n in range("
+        + std::to_string(kWarmup + kPythonQueries)
+        + "):\n"
+          "    t = time.perf_counter()\n"
+          "    i.query('FREQ?')\n"
+          "    d = (time.perf_counter() - t) * 1e6\n"
+          "    if n >= "
+        + std::to_string(kWarmup)
+        + ": print(d)\n"
+          "i.close()\n";
     const std::string command = "/usr/bin/python3 -c \"" + script + "\" 2>/dev/null";
-    FILE *pipe = ::popen(command.c_str(), "r");
+    FILE* pipe = ::popen(command.c_str(), "r");
     if (!pipe)
         return false;
     char line[64];
@@ -177,7 +182,7 @@ bool measurePyvisa(std::vector<double> &micros)
 }
 } // namespace
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     const bool pin = !(argc > 1 && std::strcmp(argv[1], "--no-pin") == 0);
     enterPrivateNetwork(argv);
@@ -203,9 +208,9 @@ int main(int argc, char **argv)
     const Figures v = summarise(visa), e = summarise(echo), p = summarise(python);
     const std::string buildType = SYNC_BENCH_BUILD_TYPE;
     std::printf("build type: %s%s\n", buildType.c_str(),
-                buildType == "Release" || buildType == "RelWithDebInfo"
-                    ? ""
-                    : " (unoptimised: configure with -DCMAKE_BUILD_TYPE=Release for real figures)");
+        buildType == "Release" || buildType == "RelWithDebInfo"
+            ? ""
+            : " (unoptimised: configure with -DCMAKE_BUILD_TYPE=Release for real figures)");
     if (cpu >= 0)
         std::printf("pinned to CPU %d\n", cpu);
     else
@@ -219,14 +224,17 @@ int main(int argc, char **argv)
         std::printf("%-34s %10s %10s\n", "FREQ? through pyvisa-py", "n/a", "n/a");
 
     const double echoRatio = v.median / (2 * e.median);
-    std::printf("\nlibvxivisa / two echo round trips: %.2f (budget <= %.1f)\n", echoRatio, kEchoBudget);
+    std::printf(
+        "\nlibvxivisa / two echo round trips: %.2f (budget <= %.1f)\n", echoRatio, kEchoBudget);
     bool ok = echoRatio <= kEchoBudget;
     if (havePython) {
         const double pythonRatio = p.median / v.median;
-        std::printf("pyvisa-py / libvxivisa:            %.2f (budget >= %.1f)\n", pythonRatio, kPythonBudget);
+        std::printf("pyvisa-py / libvxivisa:            %.2f (budget >= %.1f)\n", pythonRatio,
+            kPythonBudget);
         ok = ok && pythonRatio >= kPythonBudget;
     } else {
-        std::printf("pyvisa-py / libvxivisa:            not measured (python3-pyvisa-py missing)\n");
+        std::printf(
+            "pyvisa-py / libvxivisa:            not measured (python3-pyvisa-py missing)\n");
         return 77;
     }
     std::printf("%s\n", ok ? "within budget" : "BUDGET MISSED");

@@ -1,6 +1,6 @@
 #include "CommandLog.h"
 
-CommandLog::CommandLog(const std::string &path)
+CommandLog::CommandLog(const std::string& path)
 {
     if (!path.empty())
         m_file = std::fopen(path.c_str(), "a");
@@ -12,7 +12,7 @@ CommandLog::~CommandLog()
         std::fclose(m_file);
 }
 
-void CommandLog::write(const std::string &line)
+void CommandLog::write(const std::string& line)
 {
     if (!m_file)
         return;

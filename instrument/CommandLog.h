@@ -9,15 +9,15 @@
 class CommandLog
 {
 public:
-    explicit CommandLog(const std::string &path);
+    explicit CommandLog(const std::string& path);
     ~CommandLog();
-    CommandLog(const CommandLog &) = delete;
-    CommandLog &operator=(const CommandLog &) = delete;
+    CommandLog(const CommandLog&) = delete;
+    CommandLog& operator=(const CommandLog&) = delete;
 
     bool isOpen() const { return m_file != nullptr; }
-    void write(const std::string &line);
+    void write(const std::string& line);
 
 private:
     std::mutex m_mutex;
-    FILE *m_file = nullptr;
+    FILE* m_file = nullptr;
 };

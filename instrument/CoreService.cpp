@@ -41,8 +41,9 @@ RpcHandler::Action readError(int32_t error)
 }
 } // namespace
 
-CoreService::CoreService(const SimOptions &options, ScpiInstrument &instrument)
-    : m_options(options), m_instrument(instrument)
+CoreService::CoreService(const SimOptions& options, ScpiInstrument& instrument)
+    : m_options(options)
+    , m_instrument(instrument)
 {
 }
 
@@ -59,7 +60,7 @@ void CoreService::pause(uint32_t ms)
         std::this_thread::sleep_for(std::chrono::milliseconds(std::min<uint32_t>(ms, 20)));
 }
 
-void CoreService::logLink(uint32_t linkId, const char *what)
+void CoreService::logLink(uint32_t linkId, const char* what)
 {
     m_instrument.logEvent("<link " + std::to_string(linkId) + " " + what + ">");
 }
@@ -86,8 +87,8 @@ void CoreService::connectionClosed(uint64_t connectionId)
     }
 }
 
-RpcHandler::Action CoreService::handle(uint64_t connectionId, const RpcCodec::Call &call,
-                                       const uint8_t *args, size_t size)
+RpcHandler::Action CoreService::handle(
+    uint64_t connectionId, const RpcCodec::Call& call, const uint8_t* args, size_t size)
 {
     if (call.version != vxi11::kCoreVersion) {
         RpcHandler::Action action;
@@ -125,7 +126,7 @@ RpcHandler::Action CoreService::handle(uint64_t connectionId, const RpcCodec::Ca
     }
 }
 
-RpcHandler::Action CoreService::createLink(uint64_t connectionId, const uint8_t *args, size_t size)
+RpcHandler::Action CoreService::createLink(uint64_t connectionId, const uint8_t* args, size_t size)
 {
     vxi11::CreateLinkParms parms;
     if (!vxi11::decode(args, size, parms))
@@ -150,7 +151,7 @@ RpcHandler::Action CoreService::createLink(uint64_t connectionId, const uint8_t 
     return reply(vxi11::encode(resp));
 }
 
-RpcHandler::Action CoreService::deviceWrite(const uint8_t *args, size_t size)
+RpcHandler::Action CoreService::deviceWrite(const uint8_t* args, size_t size)
 {
     vxi11::WriteParms parms;
     if (!vxi11::decode(args, size, parms))
@@ -186,7 +187,7 @@ RpcHandler::Action CoreService::deviceWrite(const uint8_t *args, size_t size)
     return reply(vxi11::encode(resp));
 }
 
-RpcHandler::Action CoreService::deviceRead(const uint8_t *args, size_t size)
+RpcHandler::Action CoreService::deviceRead(const uint8_t* args, size_t size)
 {
     vxi11::ReadParms parms;
     if (!vxi11::decode(args, size, parms))
@@ -199,7 +200,7 @@ RpcHandler::Action CoreService::deviceRead(const uint8_t *args, size_t size)
         const auto it = m_links.find(parms.linkId);
         if (it == m_links.end())
             return readError(vxi11::InvalidLinkIdentifier);
-        std::string &output = it->second.output;
+        std::string& output = it->second.output;
         if (!output.empty()) {
             size_t length = std::min<size_t>(output.size(), parms.requestSize);
             if (parms.flags & vxi11::FlagTermCharSet) {
@@ -230,7 +231,7 @@ RpcHandler::Action CoreService::deviceRead(const uint8_t *args, size_t size)
     return action;
 }
 
-RpcHandler::Action CoreService::genericCall(uint32_t procedure, const uint8_t *args, size_t size)
+RpcHandler::Action CoreService::genericCall(uint32_t procedure, const uint8_t* args, size_t size)
 {
     // No interrupt channel, no service requests, no bus commands on this instrument.
     if (procedure == vxi11::CreateIntrChan || procedure == vxi11::DestroyIntrChan
@@ -264,7 +265,7 @@ RpcHandler::Action CoreService::genericCall(uint32_t procedure, const uint8_t *a
     return reply(bytes);
 }
 
-RpcHandler::Action CoreService::destroyLink(const uint8_t *args, size_t size)
+RpcHandler::Action CoreService::destroyLink(const uint8_t* args, size_t size)
 {
     uint32_t linkId = 0;
     if (!vxi11::decodeUint(args, size, linkId))

@@ -16,10 +16,10 @@ class ScpiInstrument;
 class CoreService
 {
 public:
-    CoreService(const SimOptions &options, ScpiInstrument &instrument);
+    CoreService(const SimOptions& options, ScpiInstrument& instrument);
 
-    RpcHandler::Action handle(uint64_t connectionId, const RpcCodec::Call &call, const uint8_t *args,
-                              size_t size);
+    RpcHandler::Action handle(
+        uint64_t connectionId, const RpcCodec::Call& call, const uint8_t* args, size_t size);
     void connectionClosed(uint64_t connectionId);
     void stop() { m_stopping = true; }
     size_t openLinks();
@@ -28,23 +28,23 @@ private:
     struct Link
     {
         uint64_t connectionId = 0;
-        std::string input;  // a message being written, until END
+        std::string input; // a message being written, until END
         std::string output; // replies not yet read
     };
 
-    RpcHandler::Action createLink(uint64_t connectionId, const uint8_t *args, size_t size);
-    RpcHandler::Action deviceWrite(const uint8_t *args, size_t size);
-    RpcHandler::Action deviceRead(const uint8_t *args, size_t size);
-    RpcHandler::Action genericCall(uint32_t procedure, const uint8_t *args, size_t size);
-    RpcHandler::Action destroyLink(const uint8_t *args, size_t size);
+    RpcHandler::Action createLink(uint64_t connectionId, const uint8_t* args, size_t size);
+    RpcHandler::Action deviceWrite(const uint8_t* args, size_t size);
+    RpcHandler::Action deviceRead(const uint8_t* args, size_t size);
+    RpcHandler::Action genericCall(uint32_t procedure, const uint8_t* args, size_t size);
+    RpcHandler::Action destroyLink(const uint8_t* args, size_t size);
     void pause(uint32_t ms);
     // "<link N open>", "<link N closed>" (destroy_link), "<link N lost>" (connection closed).
-    void logLink(uint32_t linkId, const char *what);
+    void logLink(uint32_t linkId, const char* what);
 
     SimOptions m_options;
-    ScpiInstrument &m_instrument;
+    ScpiInstrument& m_instrument;
     std::mutex m_mutex;
     std::map<uint32_t, Link> m_links;
     uint32_t m_nextLinkId = 1;
-    std::atomic<bool> m_stopping{false};
+    std::atomic<bool> m_stopping { false };
 };

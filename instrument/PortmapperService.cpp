@@ -25,8 +25,8 @@ RpcHandler::Action failure(RpcCodec::AcceptStat stat)
 }
 } // namespace
 
-RpcHandler::Action PortmapperService::handle(const RpcCodec::Call &call, const uint8_t *args,
-                                             size_t size) const
+RpcHandler::Action PortmapperService::handle(
+    const RpcCodec::Call& call, const uint8_t* args, size_t size) const
 {
     if (m_silent) {
         RpcHandler::Action action;
@@ -44,8 +44,8 @@ RpcHandler::Action PortmapperService::handle(const RpcCodec::Call &call, const u
         vxi11::GetPortParms parms;
         if (!vxi11::decode(args, size, parms))
             return failure(RpcCodec::GarbageArgs);
-        const bool known = parms.program == vxi11::kCoreProgram && parms.version == vxi11::kCoreVersion
-                           && parms.protocol == vxi11::kIpProtoTcp;
+        const bool known = parms.program == vxi11::kCoreProgram
+            && parms.version == vxi11::kCoreVersion && parms.protocol == vxi11::kIpProtoTcp;
         return reply(vxi11::encodeUint(known ? m_corePort.load() : 0));
     }
 
@@ -61,12 +61,13 @@ RpcHandler::Action PortmapperService::handle(const RpcCodec::Call &call, const u
     if (!reader.ok())
         return failure(RpcCodec::GarbageArgs);
     std::string universal;
-    if (program == vxi11::kCoreProgram && version == vxi11::kCoreVersion && netid.rfind("tcp", 0) == 0) {
+    if (program == vxi11::kCoreProgram && version == vxi11::kCoreVersion
+        && netid.rfind("tcp", 0) == 0) {
         const uint32_t a = m_address;
         const uint16_t port = m_corePort;
         universal = std::to_string(a >> 24) + "." + std::to_string((a >> 16) & 255) + "."
-                    + std::to_string((a >> 8) & 255) + "." + std::to_string(a & 255) + "."
-                    + std::to_string(port >> 8) + "." + std::to_string(port & 255);
+            + std::to_string((a >> 8) & 255) + "." + std::to_string(a & 255) + "."
+            + std::to_string(port >> 8) + "." + std::to_string(port & 255);
     }
     XdrWriter writer;
     writer.putString(universal);

@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 namespace {
-bool makeAddress(const std::string &address, uint16_t port, sockaddr_in &out, std::string &error)
+bool makeAddress(const std::string& address, uint16_t port, sockaddr_in& out, std::string& error)
 {
     std::memset(&out, 0, sizeof out);
     out.sin_family = AF_INET;
@@ -25,8 +25,8 @@ bool makeAddress(const std::string &address, uint16_t port, sockaddr_in &out, st
     return true;
 }
 
-int bindSocket(int type, const std::string &address, uint16_t port, uint16_t &boundPort,
-               std::string &error)
+int bindSocket(
+    int type, const std::string& address, uint16_t port, uint16_t& boundPort, std::string& error)
 {
     sockaddr_in addr;
     if (!makeAddress(address, port, addr, error))
@@ -38,21 +38,22 @@ int bindSocket(int type, const std::string &address, uint16_t port, uint16_t &bo
     }
     const int one = 1;
     ::setsockopt(fd, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one);
-    if (::bind(fd, reinterpret_cast<sockaddr *>(&addr), sizeof addr) != 0
+    if (::bind(fd, reinterpret_cast<sockaddr*>(&addr), sizeof addr) != 0
         || (type == SOCK_STREAM && ::listen(fd, 64) != 0)) {
         error = "cannot bind " + address + ":" + std::to_string(port) + ": " + std::strerror(errno);
         ::close(fd);
         return -1;
     }
     socklen_t len = sizeof addr;
-    ::getsockname(fd, reinterpret_cast<sockaddr *>(&addr), &len);
+    ::getsockname(fd, reinterpret_cast<sockaddr*>(&addr), &len);
     boundPort = ntohs(addr.sin_port);
     return fd;
 }
 
 } // namespace
 
-RpcServer::RpcServer(RpcHandler &handler) : m_handler(handler)
+RpcServer::RpcServer(RpcHandler& handler)
+    : m_handler(handler)
 {
     if (::pipe2(m_wake, O_CLOEXEC | O_NONBLOCK) != 0)
         m_wake[0] = m_wake[1] = -1;
@@ -67,8 +68,8 @@ RpcServer::~RpcServer()
     }
 }
 
-bool RpcServer::listenTcp(const std::string &address, uint16_t port, uint16_t &boundPort,
-                          std::string &error)
+bool RpcServer::listenTcp(
+    const std::string& address, uint16_t port, uint16_t& boundPort, std::string& error)
 {
     const int fd = bindSocket(SOCK_STREAM, address, port, boundPort, error);
     if (fd < 0)
@@ -77,8 +78,8 @@ bool RpcServer::listenTcp(const std::string &address, uint16_t port, uint16_t &b
     return true;
 }
 
-bool RpcServer::listenUdp(const std::string &address, uint16_t port, uint16_t &boundPort,
-                          std::string &error)
+bool RpcServer::listenUdp(
+    const std::string& address, uint16_t port, uint16_t& boundPort, std::string& error)
 {
     const int fd = bindSocket(SOCK_DGRAM, address, port, boundPort, error);
     if (fd < 0)
@@ -103,7 +104,7 @@ void RpcServer::stop()
         const char byte = 1;
         (void)!::write(m_wake[1], &byte, 1);
     }
-    for (auto &thread : m_threads)
+    for (auto& thread : m_threads)
         thread.join();
     m_threads.clear();
     std::list<Connection> connections;
@@ -111,7 +112,7 @@ void RpcServer::stop()
         std::lock_guard<std::mutex> lock(m_connectionsMutex);
         connections.swap(m_connections);
     }
-    for (auto &connection : connections) {
+    for (auto& connection : connections) {
         ::shutdown(connection.fd, SHUT_RDWR);
         connection.thread.join();
         ::close(connection.fd);
@@ -127,7 +128,7 @@ void RpcServer::stop()
 bool RpcServer::waitReadable(int fd)
 {
     while (!m_stopping) {
-        pollfd fds[2] = {{fd, POLLIN, 0}, {m_wake[0], POLLIN, 0}};
+        pollfd fds[2] = { { fd, POLLIN, 0 }, { m_wake[0], POLLIN, 0 } };
         const int n = ::poll(fds, 2, 1000);
         if (n < 0 && errno != EINTR)
             return false;
@@ -139,7 +140,7 @@ bool RpcServer::waitReadable(int fd)
     return false;
 }
 
-bool RpcServer::sendRecord(int fd, const std::vector<uint8_t> &record)
+bool RpcServer::sendRecord(int fd, const std::vector<uint8_t>& record)
 {
     size_t sent = 0;
     while (sent < record.size()) {
@@ -178,13 +179,13 @@ void RpcServer::acceptLoop(int listener)
         reapFinished();
         std::lock_guard<std::mutex> lock(m_connectionsMutex);
         m_connections.emplace_back();
-        Connection *connection = &m_connections.back();
+        Connection* connection = &m_connections.back();
         connection->fd = fd;
         connection->thread = std::thread(&RpcServer::serve, this, connection, m_nextConnectionId++);
     }
 }
 
-void RpcServer::serve(Connection *connection, uint64_t id)
+void RpcServer::serve(Connection* connection, uint64_t id)
 {
     const int fd = connection->fd;
     RpcStream stream(m_handler, id, kMaxRecordSize);
@@ -213,20 +214,21 @@ void RpcServer::udpLoop(int socket)
         uint8_t buffer[65536];
         sockaddr_storage from;
         socklen_t fromLength = sizeof from;
-        const ssize_t n = ::recvfrom(socket, buffer, sizeof buffer, 0,
-                                     reinterpret_cast<sockaddr *>(&from), &fromLength);
+        const ssize_t n = ::recvfrom(
+            socket, buffer, sizeof buffer, 0, reinterpret_cast<sockaddr*>(&from), &fromLength);
         if (n <= 0)
             continue;
         RpcCodec::Call call;
         if (!RpcCodec::parseCall(buffer, static_cast<size_t>(n), call))
             continue;
-        const RpcHandler::Action action =
-            m_handler.handle(0, call, buffer + call.argsOffset, static_cast<size_t>(n) - call.argsOffset);
+        const RpcHandler::Action action = m_handler.handle(
+            0, call, buffer + call.argsOffset, static_cast<size_t>(n) - call.argsOffset);
         if (action.kind != RpcHandler::Action::Reply)
             continue;
-        const std::vector<uint8_t> record = RpcCodec::encodeReply(call.xid, action.acceptStat, action.results);
+        const std::vector<uint8_t> record
+            = RpcCodec::encodeReply(call.xid, action.acceptStat, action.results);
         // A datagram carries the message without the record mark.
-        ::sendto(socket, record.data() + 4, record.size() - 4, 0, reinterpret_cast<sockaddr *>(&from),
-                 fromLength);
+        ::sendto(socket, record.data() + 4, record.size() - 4, 0,
+            reinterpret_cast<sockaddr*>(&from), fromLength);
     }
 }

@@ -15,14 +15,16 @@
 class RpcServer
 {
 public:
-    explicit RpcServer(RpcHandler &handler);
+    explicit RpcServer(RpcHandler& handler);
     ~RpcServer();
-    RpcServer(const RpcServer &) = delete;
-    RpcServer &operator=(const RpcServer &) = delete;
+    RpcServer(const RpcServer&) = delete;
+    RpcServer& operator=(const RpcServer&) = delete;
 
     // Binds now, so the caller knows the port before start(); port 0 picks a free one.
-    bool listenTcp(const std::string &address, uint16_t port, uint16_t &boundPort, std::string &error);
-    bool listenUdp(const std::string &address, uint16_t port, uint16_t &boundPort, std::string &error);
+    bool listenTcp(
+        const std::string& address, uint16_t port, uint16_t& boundPort, std::string& error);
+    bool listenUdp(
+        const std::string& address, uint16_t port, uint16_t& boundPort, std::string& error);
     void start();
     // Closes every socket and joins every thread.
     void stop();
@@ -34,24 +36,24 @@ private:
     {
         int fd = -1;
         std::thread thread;
-        std::atomic<bool> done{false};
+        std::atomic<bool> done { false };
     };
 
     void acceptLoop(int listener);
     void udpLoop(int socket);
-    void serve(Connection *connection, uint64_t id);
+    void serve(Connection* connection, uint64_t id);
     // Waits until fd is readable; false when the server stops.
     bool waitReadable(int fd);
-    bool sendRecord(int fd, const std::vector<uint8_t> &record);
+    bool sendRecord(int fd, const std::vector<uint8_t>& record);
     void reapFinished();
 
-    RpcHandler &m_handler;
+    RpcHandler& m_handler;
     std::vector<int> m_tcpListeners;
     std::vector<int> m_udpSockets;
     std::vector<std::thread> m_threads;
     std::mutex m_connectionsMutex;
     std::list<Connection> m_connections;
-    std::atomic<bool> m_stopping{false};
-    std::atomic<uint64_t> m_nextConnectionId{1};
-    int m_wake[2] = {-1, -1};
+    std::atomic<bool> m_stopping { false };
+    std::atomic<uint64_t> m_nextConnectionId { 1 };
+    int m_wake[2] = { -1, -1 };
 };

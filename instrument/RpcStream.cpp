@@ -4,19 +4,21 @@ namespace {
 // A reply whose xid matches but whose body is no RPC reply at all.
 std::vector<uint8_t> garbageRecord(uint32_t xid)
 {
-    std::vector<uint8_t> record = {uint8_t(xid >> 24), uint8_t(xid >> 16), uint8_t(xid >> 8), uint8_t(xid),
-                                   0x00, 0x00, 0x00, 0x07, 0xde, 0xad, 0xbe};
+    std::vector<uint8_t> record = { uint8_t(xid >> 24), uint8_t(xid >> 16), uint8_t(xid >> 8),
+        uint8_t(xid), 0x00, 0x00, 0x00, 0x07, 0xde, 0xad, 0xbe };
     RecordAssembler::prependRecordMark(record);
     return record;
 }
 } // namespace
 
-RpcStream::RpcStream(RpcHandler &handler, uint64_t connectionId, size_t maxRecordSize)
-    : m_handler(handler), m_connectionId(connectionId), m_assembler(maxRecordSize)
+RpcStream::RpcStream(RpcHandler& handler, uint64_t connectionId, size_t maxRecordSize)
+    : m_handler(handler)
+    , m_connectionId(connectionId)
+    , m_assembler(maxRecordSize)
 {
 }
 
-bool RpcStream::receive(const uint8_t *data, size_t size, std::vector<uint8_t> &outgoing)
+bool RpcStream::receive(const uint8_t* data, size_t size, std::vector<uint8_t>& outgoing)
 {
     if (!m_open)
         return false;

@@ -13,15 +13,15 @@
 class RpcStream
 {
 public:
-    RpcStream(RpcHandler &handler, uint64_t connectionId, size_t maxRecordSize);
+    RpcStream(RpcHandler& handler, uint64_t connectionId, size_t maxRecordSize);
 
     // Takes bytes received and appends the replies to send; replies to calls that arrived
     // together come out together. False once the connection must close (after sending
     // whatever was appended): a call that can't be read, a broken record or a drop fault.
-    bool receive(const uint8_t *data, size_t size, std::vector<uint8_t> &outgoing);
+    bool receive(const uint8_t* data, size_t size, std::vector<uint8_t>& outgoing);
 
 private:
-    RpcHandler &m_handler;
+    RpcHandler& m_handler;
     const uint64_t m_connectionId;
     RecordAssembler m_assembler;
     std::vector<uint8_t> m_pending;

@@ -20,12 +20,12 @@ constexpr double kMaxLevel = 5.0; // |offset| + amplitude / 2, into 50 ohms
 
 std::string upper(std::string s)
 {
-    for (char &c : s)
+    for (char& c : s)
         c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     return s;
 }
 
-std::string trim(const std::string &s)
+std::string trim(const std::string& s)
 {
     size_t b = 0;
     size_t e = s.size();
@@ -37,7 +37,7 @@ std::string trim(const std::string &s)
 }
 
 // Splits a program message into units at ';' and line ends outside quoted strings.
-std::vector<std::string> splitUnits(const std::string &message)
+std::vector<std::string> splitUnits(const std::string& message)
 {
     std::vector<std::string> units;
     std::string current;
@@ -69,7 +69,7 @@ struct Node
     bool optional;
 };
 
-std::vector<Node> parsePattern(const std::string &pattern)
+std::vector<Node> parsePattern(const std::string& pattern)
 {
     std::vector<Node> nodes;
     size_t i = 0;
@@ -81,12 +81,13 @@ std::vector<Node> parsePattern(const std::string &pattern)
         }
         if (i < pattern.size() && pattern[i] == ':')
             ++i;
-        Node node{"", "", optional};
+        Node node { "", "", optional };
         while (i < pattern.size() && pattern[i] != ':' && pattern[i] != '[' && pattern[i] != ']') {
             if (std::isupper(static_cast<unsigned char>(pattern[i])) || pattern[i] == '*'
                 || std::isdigit(static_cast<unsigned char>(pattern[i])))
                 node.shortForm += pattern[i];
-            node.longForm += static_cast<char>(std::toupper(static_cast<unsigned char>(pattern[i])));
+            node.longForm
+                += static_cast<char>(std::toupper(static_cast<unsigned char>(pattern[i])));
             ++i;
         }
         if (i < pattern.size() && pattern[i] == ']')
@@ -96,7 +97,8 @@ std::vector<Node> parsePattern(const std::string &pattern)
     return nodes;
 }
 
-bool matchNodes(const std::vector<Node> &nodes, size_t n, const std::vector<std::string> &tokens, size_t t)
+bool matchNodes(
+    const std::vector<Node>& nodes, size_t n, const std::vector<std::string>& tokens, size_t t)
 {
     if (n == nodes.size())
         return t == tokens.size();
@@ -110,10 +112,10 @@ bool matchNodes(const std::vector<Node> &nodes, size_t n, const std::vector<std:
     return matchNodes(nodes, n + 1, tokens, t + 1);
 }
 
-bool headerIs(const std::vector<std::string> &tokens, const char *pattern)
+bool headerIs(const std::vector<std::string>& tokens, const char* pattern)
 {
     // Patterns are string literals: parsed once per thread, keyed by address.
-    thread_local std::unordered_map<const char *, std::vector<Node>> parsed;
+    thread_local std::unordered_map<const char*, std::vector<Node>> parsed;
     auto it = parsed.find(pattern);
     if (it == parsed.end())
         it = parsed.emplace(pattern, parsePattern(pattern)).first;
@@ -139,7 +141,7 @@ std::vector<std::string> headerTokens(std::string header)
 }
 
 // A decimal number with an optional unit suffix; false if it is not one.
-bool parseNumber(const std::string &text, double &value)
+bool parseNumber(const std::string& text, double& value)
 {
     const std::string t = upper(trim(text));
     if (t.empty())
@@ -159,12 +161,13 @@ bool parseNumber(const std::string &text, double &value)
         value *= 1e6;
     else if (suffix == "MV" || suffix == "MVPP")
         value *= 1e-3;
-    else if (!suffix.empty() && suffix != "HZ" && suffix != "V" && suffix != "VPP" && suffix != "PCT")
+    else if (!suffix.empty() && suffix != "HZ" && suffix != "V" && suffix != "VPP"
+        && suffix != "PCT")
         return false;
     return true;
 }
 
-bool parseBoolean(const std::string &text, bool &value)
+bool parseBoolean(const std::string& text, bool& value)
 {
     const std::string t = upper(trim(text));
     if (t == "ON" || t == "1")
@@ -177,8 +180,9 @@ bool parseBoolean(const std::string &text, bool &value)
 }
 } // namespace
 
-ScpiInstrument::ScpiInstrument(const Identity &identity, CommandLog *log)
-    : m_identity(identity), m_log(log)
+ScpiInstrument::ScpiInstrument(const Identity& identity, CommandLog* log)
+    : m_identity(identity)
+    , m_log(log)
 {
     reset();
 }
@@ -195,7 +199,7 @@ void ScpiInstrument::reset()
     m_displayText.clear();
 }
 
-void ScpiInstrument::logEvent(const std::string &line)
+void ScpiInstrument::logEvent(const std::string& line)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     if (m_log)
@@ -210,7 +214,7 @@ std::string ScpiInstrument::formatNumber(double value)
     return text.str();
 }
 
-void ScpiInstrument::pushError(int code, const char *text)
+void ScpiInstrument::pushError(int code, const char* text)
 {
     if (m_errors.size() >= kMaxErrors) {
         m_errors.back() = "-350,\"Queue overflow\"";
@@ -219,13 +223,13 @@ void ScpiInstrument::pushError(int code, const char *text)
     m_errors.push_back(std::to_string(code) + ",\"" + text + "\"");
 }
 
-std::string ScpiInstrument::execute(const std::string &message)
+std::string ScpiInstrument::execute(const std::string& message)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     // Replies to the queries of one message go out as one message, separated by ';'.
     std::string replies;
     bool any = false;
-    for (const std::string &raw : splitUnits(message)) {
+    for (const std::string& raw : splitUnits(message)) {
         const std::string unit = trim(raw);
         if (unit.empty())
             continue;
@@ -242,7 +246,7 @@ std::string ScpiInstrument::execute(const std::string &message)
     return any ? replies + "\n" : std::string();
 }
 
-bool ScpiInstrument::setFrequency(const std::string &argument)
+bool ScpiInstrument::setFrequency(const std::string& argument)
 {
     double value = 0;
     const std::string keyword = upper(trim(argument));
@@ -263,7 +267,7 @@ bool ScpiInstrument::setFrequency(const std::string &argument)
     return true;
 }
 
-bool ScpiInstrument::setVoltage(const std::string &header, const std::string &argument)
+bool ScpiInstrument::setVoltage(const std::string& header, const std::string& argument)
 {
     double value = 0;
     if (!parseNumber(argument, value)) {
@@ -300,7 +304,7 @@ bool ScpiInstrument::setVoltage(const std::string &header, const std::string &ar
     return true;
 }
 
-bool ScpiInstrument::executeUnit(const std::string &unit, std::string &reply)
+bool ScpiInstrument::executeUnit(const std::string& unit, std::string& reply)
 {
     size_t split = 0;
     while (split < unit.size() && !std::isspace(static_cast<unsigned char>(unit[split])))
@@ -313,7 +317,7 @@ bool ScpiInstrument::executeUnit(const std::string &unit, std::string &reply)
     const std::vector<std::string> tokens = headerTokens(header);
     const bool hasArgument = !argument.empty();
 
-    auto answer = [&reply](const std::string &text) {
+    auto answer = [&reply](const std::string& text) {
         reply = text;
         return true;
     };
@@ -330,7 +334,7 @@ bool ScpiInstrument::executeUnit(const std::string &unit, std::string &reply)
 
     if (headerIs(tokens, "*IDN") && query) {
         return answer(m_identity.maker + "," + m_identity.model + "," + m_identity.serial + ","
-               + m_identity.firmware);
+            + m_identity.firmware);
     }
     if (headerIs(tokens, "*RST") && !query) {
         if (noArgument())
@@ -385,11 +389,11 @@ bool ScpiInstrument::executeUnit(const std::string &unit, std::string &reply)
             return answer(m_function);
         if (!needArgument())
             return false;
-        static const char *const shapes[][2] = {{"SIN", "SINUSOID"}, {"SQU", "SQUARE"}, {"RAMP", "RAMP"},
-                                                {"PULS", "PULSE"},   {"NOIS", "NOISE"},  {"DC", "DC"},
-                                                {"USER", "USER"}};
+        static const char* const shapes[][2]
+            = { { "SIN", "SINUSOID" }, { "SQU", "SQUARE" }, { "RAMP", "RAMP" }, { "PULS", "PULSE" },
+                  { "NOIS", "NOISE" }, { "DC", "DC" }, { "USER", "USER" } };
         const std::string shape = upper(argument);
-        for (const auto &s : shapes) {
+        for (const auto& s : shapes) {
             if (shape == s[0] || shape == s[1]) {
                 m_function = s[0];
                 if (m_function == "PULS" && m_frequency > kMaxFrequencyPulse)
@@ -407,19 +411,19 @@ bool ScpiInstrument::executeUnit(const std::string &unit, std::string &reply)
             setFrequency(argument);
         return false;
     }
-    static const char *const voltageHeaders[][2] = {{"[:SOURce]:VOLTage[:LEVel][:IMMediate][:AMPLitude]", "AMPL"},
-                                                    {"[:SOURce]:VOLTage:OFFSet", "OFFSET"},
-                                                    {"[:SOURce]:VOLTage:HIGH", "HIGH"},
-                                                    {"[:SOURce]:VOLTage:LOW", "LOW"}};
-    for (const auto &v : voltageHeaders) {
+    static const char* const voltageHeaders[][2]
+        = { { "[:SOURce]:VOLTage[:LEVel][:IMMediate][:AMPLitude]", "AMPL" },
+              { "[:SOURce]:VOLTage:OFFSet", "OFFSET" }, { "[:SOURce]:VOLTage:HIGH", "HIGH" },
+              { "[:SOURce]:VOLTage:LOW", "LOW" } };
+    for (const auto& v : voltageHeaders) {
         if (!headerIs(tokens, v[0]))
             continue;
         const std::string which = v[1];
         if (query) {
-            const double value = which == "HIGH"     ? m_offset + m_amplitude / 2
-                                 : which == "LOW"    ? m_offset - m_amplitude / 2
-                                 : which == "OFFSET" ? m_offset
-                                                     : m_amplitude;
+            const double value = which == "HIGH" ? m_offset + m_amplitude / 2
+                : which == "LOW"                 ? m_offset - m_amplitude / 2
+                : which == "OFFSET"              ? m_offset
+                                                 : m_amplitude;
             return answer(formatNumber(value));
         }
         if (needArgument())

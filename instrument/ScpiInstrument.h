@@ -20,28 +20,28 @@ public:
         std::string firmware;
     };
 
-    ScpiInstrument(const Identity &identity, CommandLog *log);
+    ScpiInstrument(const Identity& identity, CommandLog* log);
 
     // Executes one program message (units separated by ';' or line ends) and returns the
     // replies of its queries, each ending in a line feed.
-    std::string execute(const std::string &message);
+    std::string execute(const std::string& message);
     void reset();
     // Puts a line for something other than a command (a device clear) into the command log.
-    void logEvent(const std::string &line);
+    void logEvent(const std::string& line);
 
     // Text of a number as the instrument prints it, e.g. "+1.00000000000000E+03".
     static std::string formatNumber(double value);
 
 private:
     // false for a unit that is no query.
-    bool executeUnit(const std::string &unit, std::string &reply);
-    void pushError(int code, const char *text);
-    bool setFrequency(const std::string &argument);
-    bool setVoltage(const std::string &header, const std::string &argument);
+    bool executeUnit(const std::string& unit, std::string& reply);
+    void pushError(int code, const char* text);
+    bool setFrequency(const std::string& argument);
+    bool setVoltage(const std::string& header, const std::string& argument);
 
     std::mutex m_mutex;
     Identity m_identity;
-    CommandLog *m_log;
+    CommandLog* m_log;
     std::deque<std::string> m_errors;
     std::string m_function;
     double m_frequency = 0;

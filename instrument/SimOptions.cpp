@@ -4,9 +4,9 @@
 #include <cstring>
 
 namespace {
-bool toNumber(const char *text, uint32_t max, uint32_t &value)
+bool toNumber(const char* text, uint32_t max, uint32_t& value)
 {
-    char *end = nullptr;
+    char* end = nullptr;
     const unsigned long n = std::strtoul(text, &end, 10);
     if (!*text || *end || n > max)
         return false;
@@ -15,7 +15,7 @@ bool toNumber(const char *text, uint32_t max, uint32_t &value)
 }
 } // namespace
 
-const char *SimOptions::usage()
+const char* SimOptions::usage()
 {
     return "usage: sim33210a [options]\n"
            "  --listen ADDR           address to listen on (127.0.0.1)\n"
@@ -33,12 +33,12 @@ const char *SimOptions::usage()
            "  --max-recv-size N       maxRecvSize announced by create_link (4096)\n";
 }
 
-bool SimOptions::parse(int argc, char **argv, std::string &error)
+bool SimOptions::parse(int argc, char** argv, std::string& error)
 {
     for (int i = 1; i < argc; ++i) {
         const std::string flag = argv[i];
         const bool hasValue = i + 1 < argc;
-        const char *value = hasValue ? argv[i + 1] : "";
+        const char* value = hasValue ? argv[i + 1] : "";
         uint32_t number = 0;
         auto needValue = [&]() {
             if (!hasValue)
@@ -78,7 +78,8 @@ bool SimOptions::parse(int argc, char **argv, std::string &error)
             delayMs = number;
         } else if (flag == "--max-links" && toNumber(value, 1000000, number)) {
             maxLinks = number;
-        } else if (flag == "--max-recv-size" && toNumber(value, 1024 * 1024, number) && number > 0) {
+        } else if (flag == "--max-recv-size" && toNumber(value, 1024 * 1024, number)
+            && number > 0) {
             maxRecvSize = number;
         } else if (flag == "--silent-at") {
             const std::string stage = value;

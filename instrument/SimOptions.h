@@ -24,6 +24,6 @@ struct SimOptions
     uint32_t maxRecvSize = 4096;
 
     // false with a message for a bad command line.
-    bool parse(int argc, char **argv, std::string &error);
-    static const char *usage();
+    bool parse(int argc, char** argv, std::string& error);
+    static const char* usage();
 };

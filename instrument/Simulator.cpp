@@ -5,13 +5,13 @@
 #include <arpa/inet.h>
 
 namespace {
-ScpiInstrument::Identity identityOf(const SimOptions &options)
+ScpiInstrument::Identity identityOf(const SimOptions& options)
 {
-    return {options.maker, options.model, options.serial, options.firmware};
+    return { options.maker, options.model, options.serial, options.firmware };
 }
 } // namespace
 
-Simulator::Simulator(const SimOptions &options)
+Simulator::Simulator(const SimOptions& options)
     : m_options(options)
     , m_log(options.logPath)
     , m_instrument(identityOf(options), &m_log)
@@ -26,7 +26,7 @@ Simulator::~Simulator()
     stop();
 }
 
-bool Simulator::start(std::string &error)
+bool Simulator::start(std::string& error)
 {
     if (!m_options.logPath.empty() && !m_log.isOpen()) {
         error = "cannot open log file " + m_options.logPath;
@@ -34,7 +34,8 @@ bool Simulator::start(std::string &error)
     }
     uint16_t udpPort = 0;
     if (!m_server.listenTcp(m_options.listenAddress, m_options.corePort, m_corePort, error)
-        || !m_server.listenTcp(m_options.listenAddress, m_options.portmapperPort, m_portmapperPort, error)
+        || !m_server.listenTcp(
+            m_options.listenAddress, m_options.portmapperPort, m_portmapperPort, error)
         || !m_server.listenUdp(m_options.listenAddress, m_portmapperPort, udpPort, error))
         return false;
     in_addr address;
@@ -53,12 +54,12 @@ void Simulator::stop()
 
 std::string Simulator::readyLine() const
 {
-    return "SIM33210A_READY address=" + m_options.listenAddress + " portmapper="
-           + std::to_string(m_portmapperPort) + " core=" + std::to_string(m_corePort);
+    return "SIM33210A_READY address=" + m_options.listenAddress
+        + " portmapper=" + std::to_string(m_portmapperPort) + " core=" + std::to_string(m_corePort);
 }
 
-RpcHandler::Action Simulator::handle(uint64_t connectionId, const RpcCodec::Call &call,
-                                     const uint8_t *args, size_t size)
+RpcHandler::Action Simulator::handle(
+    uint64_t connectionId, const RpcCodec::Call& call, const uint8_t* args, size_t size)
 {
     if (call.program == vxi11::kPortmapperProgram)
         return m_portmapper.handle(call, args, size);

@@ -15,11 +15,11 @@
 class Simulator : private RpcHandler
 {
 public:
-    explicit Simulator(const SimOptions &options);
+    explicit Simulator(const SimOptions& options);
     ~Simulator() override;
 
     // Binds the ports and starts serving; false with a message when a port can't be had.
-    bool start(std::string &error);
+    bool start(std::string& error);
     void stop();
 
     uint16_t portmapperPort() const { return m_portmapperPort; }
@@ -29,8 +29,8 @@ public:
     std::string readyLine() const;
 
 private:
-    Action handle(uint64_t connectionId, const RpcCodec::Call &call, const uint8_t *args,
-                  size_t size) override;
+    Action handle(uint64_t connectionId, const RpcCodec::Call& call, const uint8_t* args,
+        size_t size) override;
     void connectionClosed(uint64_t connectionId) override;
 
     SimOptions m_options;

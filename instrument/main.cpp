@@ -11,7 +11,7 @@
 
 #include <sys/prctl.h>
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     SimOptions options;
     std::string error;

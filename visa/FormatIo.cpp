@@ -13,11 +13,11 @@ struct Conversion
 {
     size_t width = 0; // 0: none given
     char type = 0;
-    const char *next = nullptr;
+    const char* next = nullptr;
 };
 
 // Parses the conversion after a '%'; false for a malformed one.
-bool parseConversion(const char *p, Conversion &conversion)
+bool parseConversion(const char* p, Conversion& conversion)
 {
     size_t width = 0;
     bool hasWidth = false;
@@ -38,7 +38,7 @@ bool parseConversion(const char *p, Conversion &conversion)
     return true;
 }
 
-void copyBounded(char *target, size_t width, const char *data, size_t length)
+void copyBounded(char* target, size_t width, const char* data, size_t length)
 {
     const size_t n = length < width ? length : width;
     std::memcpy(target, data, n);
@@ -47,12 +47,12 @@ void copyBounded(char *target, size_t width, const char *data, size_t length)
 }
 } // namespace
 
-ViStatus FormatIo::format(const char *fmt, va_list args, std::string &out)
+ViStatus FormatIo::format(const char* fmt, va_list args, std::string& out)
 {
     out.clear();
     if (!fmt)
         return VI_ERROR_INV_FMT;
-    for (const char *p = fmt; *p; ++p) {
+    for (const char* p = fmt; *p; ++p) {
         if (*p != '%') {
             out += *p;
             continue;
@@ -70,7 +70,7 @@ ViStatus FormatIo::format(const char *fmt, va_list args, std::string &out)
         if (conversion.type == 'd') {
             out += std::to_string(va_arg(args, int));
         } else if (conversion.type == 's') {
-            const char *text = va_arg(args, const char *);
+            const char* text = va_arg(args, const char*);
             if (!text)
                 return VI_ERROR_INV_PARAMETER;
             out += text;
@@ -82,12 +82,12 @@ ViStatus FormatIo::format(const char *fmt, va_list args, std::string &out)
     return VI_SUCCESS;
 }
 
-ViStatus FormatIo::validateScan(const char *fmt, bool &needsInput)
+ViStatus FormatIo::validateScan(const char* fmt, bool& needsInput)
 {
     needsInput = false;
     if (!fmt)
         return VI_ERROR_INV_FMT;
-    for (const char *p = fmt; *p; ++p) {
+    for (const char* p = fmt; *p; ++p) {
         if (*p != '%')
             continue;
         if (p[1] == '%') {
@@ -105,14 +105,14 @@ ViStatus FormatIo::validateScan(const char *fmt, bool &needsInput)
     return VI_SUCCESS;
 }
 
-ViStatus FormatIo::scan(const char *fmt, va_list args, const std::string &input)
+ViStatus FormatIo::scan(const char* fmt, va_list args, const std::string& input)
 {
     bool needsInput = false;
     const ViStatus valid = validateScan(fmt, needsInput);
     if (valid != VI_SUCCESS)
         return valid;
     size_t pos = 0;
-    for (const char *p = fmt; *p; ++p) {
+    for (const char* p = fmt; *p; ++p) {
         if (isSpace(*p)) {
             while (pos < input.size() && isSpace(input[pos]))
                 ++pos;
@@ -130,7 +130,7 @@ ViStatus FormatIo::scan(const char *fmt, va_list args, const std::string &input)
         Conversion conversion;
         parseConversion(p + 1, conversion);
         const size_t width = conversion.width ? conversion.width : kDefaultWidth;
-        char *target = va_arg(args, char *);
+        char* target = va_arg(args, char*);
         if (!target)
             return VI_ERROR_INV_PARAMETER;
         if (conversion.type == 't') {

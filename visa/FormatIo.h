@@ -14,10 +14,10 @@ public:
     // Width assumed for "%t" and "%s" without one; the caller's buffer must hold this many bytes.
     static constexpr size_t kDefaultWidth = 1024;
 
-    static ViStatus format(const char *fmt, va_list args, std::string &out);
+    static ViStatus format(const char* fmt, va_list args, std::string& out);
     // Checks the format before any traffic, so a bad format reads nothing from the instrument.
-    static ViStatus validateScan(const char *fmt, bool &needsInput);
+    static ViStatus validateScan(const char* fmt, bool& needsInput);
     // Fills the arguments from one received message. Never writes more than a conversion's
     // width into its buffer; the terminating zero only where there is room for it.
-    static ViStatus scan(const char *fmt, va_list args, const std::string &input);
+    static ViStatus scan(const char* fmt, va_list args, const std::string& input);
 };

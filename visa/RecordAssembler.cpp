@@ -1,6 +1,6 @@
 #include "RecordAssembler.h"
 
-size_t RecordAssembler::feed(const uint8_t *data, size_t size)
+size_t RecordAssembler::feed(const uint8_t* data, size_t size)
 {
     size_t used = 0;
     while (used < size && !m_complete && !m_failed) {
@@ -10,7 +10,7 @@ size_t RecordAssembler::feed(const uint8_t *data, size_t size)
                 continue;
             m_headerFill = 0;
             const uint32_t mark = (uint32_t(m_header[0]) << 24) | (uint32_t(m_header[1]) << 16)
-                                  | (uint32_t(m_header[2]) << 8) | uint32_t(m_header[3]);
+                | (uint32_t(m_header[2]) << 8) | uint32_t(m_header[3]);
             m_lastFragment = (mark & kLastFragment) != 0;
             m_fragmentLeft = mark & ~kLastFragment;
             if (m_fragmentLeft > m_maxRecordSize - m_record.size()) {
@@ -53,10 +53,10 @@ void RecordAssembler::reset()
     m_record.clear();
 }
 
-void RecordAssembler::prependRecordMark(std::vector<uint8_t> &record)
+void RecordAssembler::prependRecordMark(std::vector<uint8_t>& record)
 {
     const uint32_t mark = kLastFragment | static_cast<uint32_t>(record.size());
-    const uint8_t header[4] = {uint8_t(mark >> 24), uint8_t(mark >> 16), uint8_t(mark >> 8),
-                               uint8_t(mark)};
+    const uint8_t header[4]
+        = { uint8_t(mark >> 24), uint8_t(mark >> 16), uint8_t(mark >> 8), uint8_t(mark) };
     record.insert(record.begin(), header, header + 4);
 }

@@ -10,10 +10,13 @@
 class RecordAssembler
 {
 public:
-    explicit RecordAssembler(size_t maxRecordSize) : m_maxRecordSize(maxRecordSize) {}
+    explicit RecordAssembler(size_t maxRecordSize)
+        : m_maxRecordSize(maxRecordSize)
+    {
+    }
 
     // Consumes bytes up to the end of the next complete record and returns how many it took.
-    size_t feed(const uint8_t *data, size_t size);
+    size_t feed(const uint8_t* data, size_t size);
     bool hasRecord() const { return m_complete; }
     bool failed() const { return m_failed; }
     std::vector<uint8_t> takeRecord();
@@ -21,7 +24,7 @@ public:
 
     static constexpr uint32_t kLastFragment = 0x80000000u;
     // Puts the header of a single-fragment record of the given length at the front of out.
-    static void prependRecordMark(std::vector<uint8_t> &record);
+    static void prependRecordMark(std::vector<uint8_t>& record);
 
 private:
     size_t m_maxRecordSize;

@@ -4,23 +4,24 @@
 #include <vector>
 
 namespace {
-bool equalsIgnoringCase(const std::string &a, const char *b)
+bool equalsIgnoringCase(const std::string& a, const char* b)
 {
     size_t i = 0;
     for (; i < a.size() && b[i]; ++i) {
-        if (std::toupper(static_cast<unsigned char>(a[i])) != std::toupper(static_cast<unsigned char>(b[i])))
+        if (std::toupper(static_cast<unsigned char>(a[i]))
+            != std::toupper(static_cast<unsigned char>(b[i])))
             return false;
     }
     return i == a.size() && !b[i];
 }
 
-bool startsWithIgnoringCase(const std::string &a, const char *prefix, size_t length)
+bool startsWithIgnoringCase(const std::string& a, const char* prefix, size_t length)
 {
     return a.size() >= length && equalsIgnoringCase(a.substr(0, length), prefix);
 }
 
 // Splits at "::", keeping a bracketed IPv6 address such as "[::1]" in one piece.
-std::vector<std::string> split(const std::string &text)
+std::vector<std::string> split(const std::string& text)
 {
     std::vector<std::string> parts;
     std::string current;
@@ -43,7 +44,7 @@ std::vector<std::string> split(const std::string &text)
     return parts;
 }
 
-bool isPrintableToken(const std::string &s)
+bool isPrintableToken(const std::string& s)
 {
     if (s.empty() || s.size() > 255)
         return false;
@@ -56,18 +57,19 @@ bool isPrintableToken(const std::string &s)
 }
 } // namespace
 
-ResourceName::Result ResourceName::parse(const std::string &text, ResourceName &out)
+ResourceName::Result ResourceName::parse(const std::string& text, ResourceName& out)
 {
     const std::vector<std::string> parts = split(text);
     if (parts.size() < 2)
         return Result::Invalid;
 
-    const std::string &interface = parts[0];
+    const std::string& interface = parts[0];
     if (!startsWithIgnoringCase(interface, "TCPIP", 5))
-        return startsWithIgnoringCase(interface, "GPIB", 4) || startsWithIgnoringCase(interface, "USB", 3)
-                       || startsWithIgnoringCase(interface, "ASRL", 4)
-                   ? Result::Unsupported
-                   : Result::Invalid;
+        return startsWithIgnoringCase(interface, "GPIB", 4)
+                || startsWithIgnoringCase(interface, "USB", 3)
+                || startsWithIgnoringCase(interface, "ASRL", 4)
+            ? Result::Unsupported
+            : Result::Invalid;
     unsigned board = 0;
     const std::string digits = interface.substr(5);
     if (digits.size() > 4)

@@ -9,14 +9,14 @@ class ResourceName
 public:
     enum class Result {
         Ok,
-        Invalid,     // not a resource string at all
+        Invalid, // not a resource string at all
         Unsupported, // well-formed, but not a VXI-11 instrument (a socket, a HiSLIP device, ...)
     };
 
-    static Result parse(const std::string &text, ResourceName &out);
+    static Result parse(const std::string& text, ResourceName& out);
 
-    const std::string &host() const { return m_host; }
-    const std::string &device() const { return m_device; }
+    const std::string& host() const { return m_host; }
+    const std::string& device() const { return m_device; }
     unsigned board() const { return m_board; }
 
 private:

@@ -31,7 +31,8 @@ RpcClient::RpcClient(uint32_t program, uint32_t version)
 {
 }
 
-RpcClient::Status RpcClient::connect(const std::string &host, uint16_t port, const Deadline &deadline)
+RpcClient::Status RpcClient::connect(
+    const std::string& host, uint16_t port, const Deadline& deadline)
 {
     close();
     return fromSocket(m_socket.connect(host, port, deadline));
@@ -44,12 +45,13 @@ void RpcClient::close()
     m_pending.clear();
 }
 
-RpcClient::Status RpcClient::receiveRecord(std::vector<uint8_t> &record, const Deadline &deadline)
+RpcClient::Status RpcClient::receiveRecord(std::vector<uint8_t>& record, const Deadline& deadline)
 {
     for (;;) {
         if (!m_pending.empty()) {
             const size_t used = m_assembler.feed(m_pending.data(), m_pending.size());
-            m_pending.erase(m_pending.begin(), m_pending.begin() + static_cast<std::ptrdiff_t>(used));
+            m_pending.erase(
+                m_pending.begin(), m_pending.begin() + static_cast<std::ptrdiff_t>(used));
         }
         if (m_assembler.failed())
             return Status::ProtocolError;
@@ -59,22 +61,24 @@ RpcClient::Status RpcClient::receiveRecord(std::vector<uint8_t> &record, const D
         }
         uint8_t buffer[16384];
         size_t received = 0;
-        const TcpSocket::Result result = m_socket.receiveSome(buffer, sizeof buffer, received, deadline);
+        const TcpSocket::Result result
+            = m_socket.receiveSome(buffer, sizeof buffer, received, deadline);
         if (result != TcpSocket::Result::Ok)
             return fromSocket(result);
         m_pending.insert(m_pending.end(), buffer, buffer + received);
     }
 }
 
-RpcClient::Status RpcClient::call(uint32_t procedure, const std::vector<uint8_t> &args,
-                                  const Deadline &deadline, std::vector<uint8_t> &results)
+RpcClient::Status RpcClient::call(uint32_t procedure, const std::vector<uint8_t>& args,
+    const Deadline& deadline, std::vector<uint8_t>& results)
 {
     uint32_t xid = 0;
     const Status status = send(procedure, args, deadline, xid);
     return status == Status::Ok ? receive(xid, deadline, results) : status;
 }
 
-std::vector<uint8_t> RpcClient::prepare(uint32_t procedure, const std::vector<uint8_t> &args, uint32_t &xid)
+std::vector<uint8_t> RpcClient::prepare(
+    uint32_t procedure, const std::vector<uint8_t>& args, uint32_t& xid)
 {
     RpcCodec::Call call;
     call.xid = xid = m_nextXid++;
@@ -84,7 +88,8 @@ std::vector<uint8_t> RpcClient::prepare(uint32_t procedure, const std::vector<ui
     return RpcCodec::encodeCall(call, args);
 }
 
-RpcClient::Status RpcClient::sendRecords(const std::vector<uint8_t> &records, const Deadline &deadline)
+RpcClient::Status RpcClient::sendRecords(
+    const std::vector<uint8_t>& records, const Deadline& deadline)
 {
     if (!m_socket.isOpen())
         return Status::ConnectionLost;
@@ -92,13 +97,14 @@ RpcClient::Status RpcClient::sendRecords(const std::vector<uint8_t> &records, co
     return fromSocket(m_socket.sendAll(records.data(), records.size(), deadline));
 }
 
-RpcClient::Status RpcClient::send(uint32_t procedure, const std::vector<uint8_t> &args,
-                                  const Deadline &deadline, uint32_t &xid)
+RpcClient::Status RpcClient::send(
+    uint32_t procedure, const std::vector<uint8_t>& args, const Deadline& deadline, uint32_t& xid)
 {
     return sendRecords(prepare(procedure, args, xid), deadline);
 }
 
-RpcClient::Status RpcClient::receive(uint32_t xid, const Deadline &deadline, std::vector<uint8_t> &results)
+RpcClient::Status RpcClient::receive(
+    uint32_t xid, const Deadline& deadline, std::vector<uint8_t>& results)
 {
     for (;;) {
         std::vector<uint8_t> reply;
@@ -115,7 +121,8 @@ RpcClient::Status RpcClient::receive(uint32_t xid, const Deadline &deadline, std
             return Status::ProtocolError;
         if (!header.accepted || header.acceptStat != RpcCodec::Success)
             return Status::Rejected;
-        results.assign(reply.begin() + static_cast<std::ptrdiff_t>(header.resultOffset), reply.end());
+        results.assign(
+            reply.begin() + static_cast<std::ptrdiff_t>(header.resultOffset), reply.end());
         return Status::Ok;
     }
 }

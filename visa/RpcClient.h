@@ -19,30 +19,31 @@ public:
         ConnectionLost,
         Unreachable,
         ProtocolError, // the peer sent something that is not a reply we can use
-        Rejected,      // a well-formed reply that refuses the call
+        Rejected, // a well-formed reply that refuses the call
     };
 
     RpcClient(uint32_t program, uint32_t version);
 
-    Status connect(const std::string &host, uint16_t port, const Deadline &deadline);
+    Status connect(const std::string& host, uint16_t port, const Deadline& deadline);
     // Sends the call and waits for its reply; results holds the procedure's encoded results.
-    Status call(uint32_t procedure, const std::vector<uint8_t> &args, const Deadline &deadline,
-                std::vector<uint8_t> &results);
+    Status call(uint32_t procedure, const std::vector<uint8_t>& args, const Deadline& deadline,
+        std::vector<uint8_t>& results);
     // The halves of call(), so that calls can go out together, in one send, before their
     // replies are in. Replies come back in call order on one connection; receive() drops any
     // with another xid.
-    std::vector<uint8_t> prepare(uint32_t procedure, const std::vector<uint8_t> &args, uint32_t &xid);
-    Status sendRecords(const std::vector<uint8_t> &records, const Deadline &deadline);
-    Status send(uint32_t procedure, const std::vector<uint8_t> &args, const Deadline &deadline,
-                uint32_t &xid);
-    Status receive(uint32_t xid, const Deadline &deadline, std::vector<uint8_t> &results);
+    std::vector<uint8_t> prepare(
+        uint32_t procedure, const std::vector<uint8_t>& args, uint32_t& xid);
+    Status sendRecords(const std::vector<uint8_t>& records, const Deadline& deadline);
+    Status send(uint32_t procedure, const std::vector<uint8_t>& args, const Deadline& deadline,
+        uint32_t& xid);
+    Status receive(uint32_t xid, const Deadline& deadline, std::vector<uint8_t>& results);
     void close();
     bool isConnected() const { return m_socket.isOpen(); }
 
     static constexpr size_t kMaxRecordSize = size_t(4) * 1024 * 1024;
 
 private:
-    Status receiveRecord(std::vector<uint8_t> &record, const Deadline &deadline);
+    Status receiveRecord(std::vector<uint8_t>& record, const Deadline& deadline);
 
     uint32_t m_program;
     uint32_t m_version;

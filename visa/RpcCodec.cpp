@@ -12,17 +12,17 @@ constexpr uint32_t kMsgDenied = 1;
 constexpr uint32_t kAuthNone = 0;
 constexpr uint32_t kRpcMismatch = 0;
 
-bool skipAuth(XdrReader &reader)
+bool skipAuth(XdrReader& reader)
 {
     reader.getUint(); // flavor
-    const uint8_t *body = nullptr;
+    const uint8_t* body = nullptr;
     size_t size = 0;
     return reader.getOpaqueView(body, size, RpcCodec::kMaxAuthBody);
 }
 
-std::vector<uint8_t> finish(XdrWriter &writer, const std::vector<uint8_t> &tail)
+std::vector<uint8_t> finish(XdrWriter& writer, const std::vector<uint8_t>& tail)
 {
-    std::vector<uint8_t> &bytes = writer.bytes();
+    std::vector<uint8_t>& bytes = writer.bytes();
     bytes.reserve(bytes.size() + tail.size() + 4);
     bytes.insert(bytes.end(), tail.begin(), tail.end());
     RecordAssembler::prependRecordMark(bytes);
@@ -32,7 +32,7 @@ std::vector<uint8_t> finish(XdrWriter &writer, const std::vector<uint8_t> &tail)
 }
 } // namespace
 
-std::vector<uint8_t> RpcCodec::encodeCall(const Call &call, const std::vector<uint8_t> &args)
+std::vector<uint8_t> RpcCodec::encodeCall(const Call& call, const std::vector<uint8_t>& args)
 {
     XdrWriter writer;
     writer.putUint(call.xid);
@@ -48,8 +48,8 @@ std::vector<uint8_t> RpcCodec::encodeCall(const Call &call, const std::vector<ui
     return finish(writer, args);
 }
 
-std::vector<uint8_t> RpcCodec::encodeReply(uint32_t xid, AcceptStat stat,
-                                           const std::vector<uint8_t> &results)
+std::vector<uint8_t> RpcCodec::encodeReply(
+    uint32_t xid, AcceptStat stat, const std::vector<uint8_t>& results)
 {
     XdrWriter writer;
     writer.putUint(xid);
@@ -77,14 +77,14 @@ std::vector<uint8_t> RpcCodec::encodeRpcMismatch(uint32_t xid)
     return finish(writer, {});
 }
 
-bool RpcCodec::peekXid(const uint8_t *data, size_t size, uint32_t &xid)
+bool RpcCodec::peekXid(const uint8_t* data, size_t size, uint32_t& xid)
 {
     XdrReader reader(data, size);
     xid = reader.getUint();
     return reader.ok();
 }
 
-bool RpcCodec::parseCall(const uint8_t *data, size_t size, Call &call)
+bool RpcCodec::parseCall(const uint8_t* data, size_t size, Call& call)
 {
     XdrReader reader(data, size);
     call.xid = reader.getUint();
@@ -101,7 +101,7 @@ bool RpcCodec::parseCall(const uint8_t *data, size_t size, Call &call)
     return reader.ok();
 }
 
-bool RpcCodec::parseReply(const uint8_t *data, size_t size, Reply &reply)
+bool RpcCodec::parseReply(const uint8_t* data, size_t size, Reply& reply)
 {
     XdrReader reader(data, size);
     reply.xid = reader.getUint();

@@ -33,19 +33,19 @@ public:
         uint32_t xid = 0;
         bool accepted = false;
         uint32_t acceptStat = 0; // meaningful when accepted
-        size_t resultOffset = 0;  // where the procedure's results start, when Success
+        size_t resultOffset = 0; // where the procedure's results start, when Success
     };
 
     // A complete record, record mark included, ready for one send.
-    static std::vector<uint8_t> encodeCall(const Call &call, const std::vector<uint8_t> &args);
-    static std::vector<uint8_t> encodeReply(uint32_t xid, AcceptStat stat,
-                                            const std::vector<uint8_t> &results);
+    static std::vector<uint8_t> encodeCall(const Call& call, const std::vector<uint8_t>& args);
+    static std::vector<uint8_t> encodeReply(
+        uint32_t xid, AcceptStat stat, const std::vector<uint8_t>& results);
     static std::vector<uint8_t> encodeRpcMismatch(uint32_t xid);
 
     // Only the xid of a record, so a late reply can be recognised even when the rest is damaged.
-    static bool peekXid(const uint8_t *data, size_t size, uint32_t &xid);
-    static bool parseCall(const uint8_t *data, size_t size, Call &call);
-    static bool parseReply(const uint8_t *data, size_t size, Reply &reply);
+    static bool peekXid(const uint8_t* data, size_t size, uint32_t& xid);
+    static bool parseCall(const uint8_t* data, size_t size, Call& call);
+    static bool parseReply(const uint8_t* data, size_t size, Reply& reply);
 
     static constexpr uint32_t kRpcVersion = 2;
     static constexpr size_t kMaxAuthBody = 400;

@@ -4,11 +4,11 @@
 
 #include <vector>
 
-SessionRegistry &SessionRegistry::instance()
+SessionRegistry& SessionRegistry::instance()
 {
     // Never destroyed: a session still open when the library unloads must not be torn down
     // from a static destructor in an unknown order.
-    static SessionRegistry *registry = new SessionRegistry;
+    static SessionRegistry* registry = new SessionRegistry;
     return *registry;
 }
 
@@ -27,14 +27,15 @@ bool SessionRegistry::isResourceManager(ViSession handle)
     return it != m_entries.end() && !it->second.session;
 }
 
-ViSession SessionRegistry::addSession(ViSession resourceManager, std::shared_ptr<VisaSession> session)
+ViSession SessionRegistry::addSession(
+    ViSession resourceManager, std::shared_ptr<VisaSession> session)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     const auto rm = m_entries.find(resourceManager);
     if (rm == m_entries.end() || rm->second.session)
         return 0;
     const ViSession handle = m_nextHandle++;
-    m_entries[handle] = Entry{resourceManager, std::move(session)};
+    m_entries[handle] = Entry { resourceManager, std::move(session) };
     return handle;
 }
 
@@ -68,7 +69,7 @@ ViStatus SessionRegistry::close(ViSession handle)
         m_entries.erase(handle);
     }
     // destroy_link goes out here, outside the table lock, one session at a time.
-    for (const auto &session : closing) {
+    for (const auto& session : closing) {
         std::lock_guard<std::mutex> lock(session->mutex());
         session->close();
     }

@@ -13,7 +13,7 @@ class VisaSession;
 class SessionRegistry
 {
 public:
-    static SessionRegistry &instance();
+    static SessionRegistry& instance();
 
     ViSession addResourceManager();
     bool isResourceManager(ViSession handle);

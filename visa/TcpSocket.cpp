@@ -11,7 +11,7 @@
 #include <unistd.h>
 
 namespace {
-int toPollTimeout(const Deadline &deadline)
+int toPollTimeout(const Deadline& deadline)
 {
     const int64_t ms = deadline.remainingMs();
     return ms > 1000000 ? 1000000 : static_cast<int>(ms);
@@ -31,10 +31,10 @@ void TcpSocket::close()
     }
 }
 
-TcpSocket::Result TcpSocket::waitFor(short events, const Deadline &deadline)
+TcpSocket::Result TcpSocket::waitFor(short events, const Deadline& deadline)
 {
     for (;;) {
-        pollfd pfd = {m_fd, events, 0};
+        pollfd pfd = { m_fd, events, 0 };
         const int n = ::poll(&pfd, 1, toPollTimeout(deadline));
         if (n > 0)
             return Result::Ok;
@@ -45,7 +45,8 @@ TcpSocket::Result TcpSocket::waitFor(short events, const Deadline &deadline)
     }
 }
 
-TcpSocket::Result TcpSocket::connect(const std::string &host, uint16_t port, const Deadline &deadline)
+TcpSocket::Result TcpSocket::connect(
+    const std::string& host, uint16_t port, const Deadline& deadline)
 {
     close();
     addrinfo hints;
@@ -53,14 +54,15 @@ TcpSocket::Result TcpSocket::connect(const std::string &host, uint16_t port, con
     hints.ai_family = AF_UNSPEC;
     hints.ai_socktype = SOCK_STREAM;
     hints.ai_flags = AI_NUMERICSERV;
-    addrinfo *list = nullptr;
+    addrinfo* list = nullptr;
     const std::string service = std::to_string(port);
     if (::getaddrinfo(host.c_str(), service.c_str(), &hints, &list) != 0 || !list)
         return Result::Unreachable;
 
     Result result = Result::Unreachable;
-    for (addrinfo *ai = list; ai && result != Result::Ok; ai = ai->ai_next) {
-        m_fd = ::socket(ai->ai_family, ai->ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK, ai->ai_protocol);
+    for (addrinfo* ai = list; ai && result != Result::Ok; ai = ai->ai_next) {
+        m_fd = ::socket(
+            ai->ai_family, ai->ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK, ai->ai_protocol);
         if (m_fd < 0)
             continue;
         const int one = 1;
@@ -91,7 +93,7 @@ TcpSocket::Result TcpSocket::connect(const std::string &host, uint16_t port, con
     return result;
 }
 
-TcpSocket::Result TcpSocket::sendAll(const uint8_t *data, size_t size, const Deadline &deadline)
+TcpSocket::Result TcpSocket::sendAll(const uint8_t* data, size_t size, const Deadline& deadline)
 {
     if (m_fd < 0)
         return Result::Closed;
@@ -115,8 +117,8 @@ TcpSocket::Result TcpSocket::sendAll(const uint8_t *data, size_t size, const Dea
     return Result::Ok;
 }
 
-TcpSocket::Result TcpSocket::receiveSome(uint8_t *data, size_t capacity, size_t &received,
-                                         const Deadline &deadline)
+TcpSocket::Result TcpSocket::receiveSome(
+    uint8_t* data, size_t capacity, size_t& received, const Deadline& deadline)
 {
     received = 0;
     if (m_fd < 0)

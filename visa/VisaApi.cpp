@@ -24,21 +24,21 @@ VXIVISA_EXPORT ViStatus VI_FUNCC viOpenDefaultRM(ViPSession vi)
     try {
         *vi = SessionRegistry::instance().addResourceManager();
         return VI_SUCCESS;
-    } catch (const std::bad_alloc &) {
+    } catch (const std::bad_alloc&) {
         return VI_ERROR_ALLOC;
     } catch (...) {
         return VI_ERROR_SYSTEM_ERROR;
     }
 }
 
-VXIVISA_EXPORT ViStatus VI_FUNCC viOpen(ViSession sesn, ViRsrc name, ViAccessMode mode,
-                                        ViUInt32 timeout, ViPSession vi)
+VXIVISA_EXPORT ViStatus VI_FUNCC viOpen(
+    ViSession sesn, ViRsrc name, ViAccessMode mode, ViUInt32 timeout, ViPSession vi)
 {
     if (!vi)
         return VI_ERROR_INV_PARAMETER;
     *vi = VI_NULL;
     try {
-        SessionRegistry &registry = SessionRegistry::instance();
+        SessionRegistry& registry = SessionRegistry::instance();
         if (!registry.isResourceManager(sesn))
             return VI_ERROR_INV_OBJECT;
         if (!name)
@@ -63,7 +63,7 @@ VXIVISA_EXPORT ViStatus VI_FUNCC viOpen(ViSession sesn, ViRsrc name, ViAccessMod
         }
         *vi = handle;
         return VI_SUCCESS;
-    } catch (const std::bad_alloc &) {
+    } catch (const std::bad_alloc&) {
         return VI_ERROR_ALLOC;
     } catch (...) {
         return VI_ERROR_SYSTEM_ERROR;
@@ -106,9 +106,9 @@ VXIVISA_EXPORT ViStatus VI_FUNCC viPrintf(ViSession vi, ViString writeFmt, ...)
         if (formatted != VI_SUCCESS)
             return formatted;
         std::lock_guard<std::mutex> lock(session->mutex());
-        return session->write(reinterpret_cast<const uint8_t *>(message.data()), message.size(),
-                              VisaSession::expectsReply(message));
-    } catch (const std::bad_alloc &) {
+        return session->write(reinterpret_cast<const uint8_t*>(message.data()), message.size(),
+            VisaSession::expectsReply(message));
+    } catch (const std::bad_alloc&) {
         return VI_ERROR_ALLOC;
     } catch (...) {
         return VI_ERROR_SYSTEM_ERROR;
@@ -137,7 +137,7 @@ VXIVISA_EXPORT ViStatus VI_FUNCC viScanf(ViSession vi, ViString readFmt, ...)
         const ViStatus status = FormatIo::scan(readFmt, args, reply);
         va_end(args);
         return status;
-    } catch (const std::bad_alloc &) {
+    } catch (const std::bad_alloc&) {
         return VI_ERROR_ALLOC;
     } catch (...) {
         return VI_ERROR_SYSTEM_ERROR;

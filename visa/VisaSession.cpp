@@ -10,12 +10,12 @@ namespace {
 constexpr uint32_t kMaxWriteChunk = 1024 * 1024;
 constexpr int64_t kCleanupMs = 300;
 
-uint32_t envNumber(const char *name, uint32_t fallback, uint32_t min, uint32_t max)
+uint32_t envNumber(const char* name, uint32_t fallback, uint32_t min, uint32_t max)
 {
-    const char *text = std::getenv(name);
+    const char* text = std::getenv(name);
     if (!text || !*text)
         return fallback;
-    char *end = nullptr;
+    char* end = nullptr;
     const unsigned long value = std::strtoul(text, &end, 10);
     if (*end != '\0' || value < min || value > max)
         return fallback;
@@ -32,25 +32,28 @@ SessionOptions SessionOptions::fromEnvironment()
     return options;
 }
 
-VisaSession::VisaSession(const SessionOptions &options) : m_options(options) {}
+VisaSession::VisaSession(const SessionOptions& options)
+    : m_options(options)
+{
+}
 
 VisaSession::~VisaSession()
 {
     close();
 }
 
-Deadline VisaSession::socketDeadline(const Deadline &ioDeadline) const
+Deadline VisaSession::socketDeadline(const Deadline& ioDeadline) const
 {
     return Deadline::inMs(ioDeadline.remainingMs() + m_options.socketMarginMs);
 }
 
-ViStatus VisaSession::open(const ResourceName &resource, bool lockDevice, uint32_t lockTimeoutMs)
+ViStatus VisaSession::open(const ResourceName& resource, bool lockDevice, uint32_t lockTimeoutMs)
 {
     close();
     const Deadline deadline = Deadline::inMs(m_options.timeoutMs);
     uint16_t corePort = 0;
-    Vxi11Client::Status status = Vxi11Client::queryCorePort(resource.host(), m_options.portmapperPort,
-                                                            deadline, corePort);
+    Vxi11Client::Status status
+        = Vxi11Client::queryCorePort(resource.host(), m_options.portmapperPort, deadline, corePort);
     if (status == Vxi11Client::Status::Ok)
         status = m_client.connect(resource.host(), corePort, deadline);
     if (status != Vxi11Client::Status::Ok) {
@@ -79,7 +82,7 @@ ViStatus VisaSession::open(const ResourceName &resource, bool lockDevice, uint32
     return VI_SUCCESS;
 }
 
-void VisaSession::destroyLink(const Deadline &deadline)
+void VisaSession::destroyLink(const Deadline& deadline)
 {
     m_pending.active = false;
     if (m_linkOpen && m_client.isConnected()) {
@@ -120,7 +123,7 @@ ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
     return VisaStatus::fromTransport(status);
 }
 
-bool VisaSession::expectsReply(const std::string &message)
+bool VisaSession::expectsReply(const std::string& message)
 {
     const size_t last = message.find_last_not_of(" \t\r\n");
     if (last == std::string::npos)
@@ -149,7 +152,8 @@ ViStatus VisaSession::finishPendingWrite()
     m_pending.active = false;
     if (!m_pending.sent) {
         m_pending.deadline = socketDeadline(Deadline::inMs(m_options.timeoutMs));
-        const Vxi11Client::Status status = m_client.sendPrepared(m_pending.record, m_pending.deadline);
+        const Vxi11Client::Status status
+            = m_client.sendPrepared(m_pending.record, m_pending.deadline);
         if (status != Vxi11Client::Status::Ok)
             return transportFailure(status);
     }
@@ -163,7 +167,7 @@ ViStatus VisaSession::finishPendingWrite()
     return resp.size == m_pending.length ? VI_SUCCESS : VI_ERROR_IO;
 }
 
-ViStatus VisaSession::write(const uint8_t *data, size_t size, bool replyExpected)
+ViStatus VisaSession::write(const uint8_t* data, size_t size, bool replyExpected)
 {
     const ViStatus pending = finishPendingWrite();
     if (pending != VI_SUCCESS)
@@ -189,7 +193,8 @@ ViStatus VisaSession::write(const uint8_t *data, size_t size, bool replyExpected
             return VI_SUCCESS;
         }
         vxi11::WriteResp resp;
-        const Vxi11Client::Status status = m_client.deviceWrite(parms, resp, socketDeadline(deadline));
+        const Vxi11Client::Status status
+            = m_client.deviceWrite(parms, resp, socketDeadline(deadline));
         if (status != Vxi11Client::Status::Ok)
             return transportFailure(status);
         if (resp.error != vxi11::NoError)
@@ -203,7 +208,7 @@ ViStatus VisaSession::write(const uint8_t *data, size_t size, bool replyExpected
     return VI_SUCCESS;
 }
 
-ViStatus VisaSession::read(std::string &message, size_t keep)
+ViStatus VisaSession::read(std::string& message, size_t keep)
 {
     message.clear();
     if (!m_linkOpen)
@@ -216,8 +221,8 @@ ViStatus VisaSession::read(std::string &message, size_t keep)
         parms.ioTimeout = static_cast<uint32_t>(deadline.remainingMs());
         const bool withWrite = m_pending.active && !m_pending.sent;
         uint32_t xid = 0;
-        Vxi11Client::Status status = m_client.beginRead(
-            parms, withWrite ? m_pending.record : std::vector<uint8_t>(), socketDeadline(deadline), xid);
+        Vxi11Client::Status status = m_client.beginRead(parms,
+            withWrite ? m_pending.record : std::vector<uint8_t>(), socketDeadline(deadline), xid);
         if (status != Vxi11Client::Status::Ok) {
             m_pending.active = false;
             return transportFailure(status);
@@ -239,7 +244,7 @@ ViStatus VisaSession::read(std::string &message, size_t keep)
             return VisaStatus::fromDeviceError(resp.error);
         if (message.size() < keep) {
             const size_t take = std::min(keep - message.size(), resp.data.size());
-            message.append(reinterpret_cast<const char *>(resp.data.data()), take);
+            message.append(reinterpret_cast<const char*>(resp.data.data()), take);
         }
         if (resp.reason & (vxi11::ReasonEnd | vxi11::ReasonTermChar))
             return VI_SUCCESS;

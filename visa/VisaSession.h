@@ -28,26 +28,26 @@ struct SessionOptions
 class VisaSession
 {
 public:
-    explicit VisaSession(const SessionOptions &options);
+    explicit VisaSession(const SessionOptions& options);
     ~VisaSession();
-    VisaSession(const VisaSession &) = delete;
-    VisaSession &operator=(const VisaSession &) = delete;
+    VisaSession(const VisaSession&) = delete;
+    VisaSession& operator=(const VisaSession&) = delete;
 
-    ViStatus open(const ResourceName &resource, bool lockDevice, uint32_t lockTimeoutMs);
+    ViStatus open(const ResourceName& resource, bool lockDevice, uint32_t lockTimeoutMs);
     // Sends one message, split at the instrument's maxRecvSize, END on the last piece. The last
     // piece of a query waits for the read that follows and goes out with it in one send, so a
     // query costs one exchange instead of two; any other call sends it first. Its failure is
     // then reported by that next call.
-    ViStatus write(const uint8_t *data, size_t size, bool replyExpected = false);
+    ViStatus write(const uint8_t* data, size_t size, bool replyExpected = false);
     // Reads one whole message (to END or the instrument's term char), keeping at most keep
     // bytes of it; the rest is read and dropped so it can't pass for the next reply.
-    ViStatus read(std::string &message, size_t keep);
+    ViStatus read(std::string& message, size_t keep);
     ViStatus clear();
     void close();
 
-    std::mutex &mutex() { return m_mutex; }
+    std::mutex& mutex() { return m_mutex; }
     // Whether a message is a query: its last unit's header ends in '?'.
-    static bool expectsReply(const std::string &message);
+    static bool expectsReply(const std::string& message);
     uint32_t maxRecvSize() const { return m_maxRecvSize; }
 
 private:
@@ -64,8 +64,8 @@ private:
     // Sends the held write if it isn't out yet, and takes its reply.
     ViStatus finishPendingWrite();
     ViStatus transportFailure(Vxi11Client::Status status);
-    void destroyLink(const Deadline &deadline);
-    Deadline socketDeadline(const Deadline &ioDeadline) const;
+    void destroyLink(const Deadline& deadline);
+    Deadline socketDeadline(const Deadline& ioDeadline) const;
 
     SessionOptions m_options;
     std::mutex m_mutex;

@@ -6,22 +6,24 @@ struct ErrorOnly
     int32_t error = 0;
 };
 
-bool decodeResult(const std::vector<uint8_t> &bytes, ErrorOnly &resp)
+bool decodeResult(const std::vector<uint8_t>& bytes, ErrorOnly& resp)
 {
     return vxi11::decodeError(bytes.data(), bytes.size(), resp.error);
 }
 
-template <typename Resp>
-bool decodeResult(const std::vector<uint8_t> &bytes, Resp &resp)
+template <typename Resp> bool decodeResult(const std::vector<uint8_t>& bytes, Resp& resp)
 {
     return vxi11::decode(bytes.data(), bytes.size(), resp);
 }
 } // namespace
 
-Vxi11Client::Vxi11Client() : m_rpc(vxi11::kCoreProgram, vxi11::kCoreVersion) {}
+Vxi11Client::Vxi11Client()
+    : m_rpc(vxi11::kCoreProgram, vxi11::kCoreVersion)
+{
+}
 
-Vxi11Client::Status Vxi11Client::queryCorePort(const std::string &host, uint16_t portmapperPort,
-                                               const Deadline &deadline, uint16_t &corePort)
+Vxi11Client::Status Vxi11Client::queryCorePort(
+    const std::string& host, uint16_t portmapperPort, const Deadline& deadline, uint16_t& corePort)
 {
     RpcClient portmapper(vxi11::kPortmapperProgram, vxi11::kPortmapperVersion);
     Status status = portmapper.connect(host, portmapperPort, deadline);
@@ -44,13 +46,14 @@ Vxi11Client::Status Vxi11Client::queryCorePort(const std::string &host, uint16_t
     return Status::Ok;
 }
 
-Vxi11Client::Status Vxi11Client::connect(const std::string &host, uint16_t port, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::connect(
+    const std::string& host, uint16_t port, const Deadline& deadline)
 {
     return m_rpc.connect(host, port, deadline);
 }
 
 template <typename Resp>
-Vxi11Client::Status Vxi11Client::finish(uint32_t xid, Resp &resp, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::finish(uint32_t xid, Resp& resp, const Deadline& deadline)
 {
     std::vector<uint8_t> results;
     const Status status = m_rpc.receive(xid, deadline, results);
@@ -60,31 +63,33 @@ Vxi11Client::Status Vxi11Client::finish(uint32_t xid, Resp &resp, const Deadline
 }
 
 template <typename Resp>
-Vxi11Client::Status Vxi11Client::invoke(uint32_t procedure, const std::vector<uint8_t> &args,
-                                        Resp &resp, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::invoke(
+    uint32_t procedure, const std::vector<uint8_t>& args, Resp& resp, const Deadline& deadline)
 {
     uint32_t xid = 0;
     const Status status = m_rpc.send(procedure, args, deadline, xid);
     return status == Status::Ok ? finish(xid, resp, deadline) : status;
 }
 
-std::vector<uint8_t> Vxi11Client::prepareWrite(const vxi11::WriteParms &parms, uint32_t &xid)
+std::vector<uint8_t> Vxi11Client::prepareWrite(const vxi11::WriteParms& parms, uint32_t& xid)
 {
     return m_rpc.prepare(vxi11::DeviceWrite, vxi11::encode(parms), xid);
 }
 
-Vxi11Client::Status Vxi11Client::sendPrepared(const std::vector<uint8_t> &records, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::sendPrepared(
+    const std::vector<uint8_t>& records, const Deadline& deadline)
 {
     return m_rpc.sendRecords(records, deadline);
 }
 
-Vxi11Client::Status Vxi11Client::endWrite(uint32_t xid, vxi11::WriteResp &resp, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::endWrite(
+    uint32_t xid, vxi11::WriteResp& resp, const Deadline& deadline)
 {
     return finish(xid, resp, deadline);
 }
 
-Vxi11Client::Status Vxi11Client::beginRead(const vxi11::ReadParms &parms, const std::vector<uint8_t> &before,
-                                           const Deadline &deadline, uint32_t &xid)
+Vxi11Client::Status Vxi11Client::beginRead(const vxi11::ReadParms& parms,
+    const std::vector<uint8_t>& before, const Deadline& deadline, uint32_t& xid)
 {
     std::vector<uint8_t> records = before;
     const std::vector<uint8_t> read = m_rpc.prepare(vxi11::DeviceRead, vxi11::encode(parms), xid);
@@ -92,31 +97,32 @@ Vxi11Client::Status Vxi11Client::beginRead(const vxi11::ReadParms &parms, const 
     return m_rpc.sendRecords(records, deadline);
 }
 
-Vxi11Client::Status Vxi11Client::endRead(uint32_t xid, vxi11::ReadResp &resp, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::endRead(
+    uint32_t xid, vxi11::ReadResp& resp, const Deadline& deadline)
 {
     return finish(xid, resp, deadline);
 }
 
-Vxi11Client::Status Vxi11Client::createLink(const vxi11::CreateLinkParms &parms,
-                                            vxi11::CreateLinkResp &resp, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::createLink(
+    const vxi11::CreateLinkParms& parms, vxi11::CreateLinkResp& resp, const Deadline& deadline)
 {
     return invoke(vxi11::CreateLink, vxi11::encode(parms), resp, deadline);
 }
 
-Vxi11Client::Status Vxi11Client::deviceWrite(const vxi11::WriteParms &parms, vxi11::WriteResp &resp,
-                                             const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::deviceWrite(
+    const vxi11::WriteParms& parms, vxi11::WriteResp& resp, const Deadline& deadline)
 {
     return invoke(vxi11::DeviceWrite, vxi11::encode(parms), resp, deadline);
 }
 
-Vxi11Client::Status Vxi11Client::deviceRead(const vxi11::ReadParms &parms, vxi11::ReadResp &resp,
-                                            const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::deviceRead(
+    const vxi11::ReadParms& parms, vxi11::ReadResp& resp, const Deadline& deadline)
 {
     return invoke(vxi11::DeviceRead, vxi11::encode(parms), resp, deadline);
 }
 
-Vxi11Client::Status Vxi11Client::deviceClear(const vxi11::GenericParms &parms, int32_t &error,
-                                             const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::deviceClear(
+    const vxi11::GenericParms& parms, int32_t& error, const Deadline& deadline)
 {
     ErrorOnly resp;
     const Status status = invoke(vxi11::DeviceClear, vxi11::encode(parms), resp, deadline);
@@ -124,7 +130,8 @@ Vxi11Client::Status Vxi11Client::deviceClear(const vxi11::GenericParms &parms, i
     return status;
 }
 
-Vxi11Client::Status Vxi11Client::destroyLink(uint32_t linkId, int32_t &error, const Deadline &deadline)
+Vxi11Client::Status Vxi11Client::destroyLink(
+    uint32_t linkId, int32_t& error, const Deadline& deadline)
 {
     ErrorOnly resp;
     const Status status = invoke(vxi11::DestroyLink, vxi11::encodeUint(linkId), resp, deadline);

@@ -5,7 +5,7 @@
 
 namespace vxi11 {
 
-std::vector<uint8_t> encode(const CreateLinkParms &m)
+std::vector<uint8_t> encode(const CreateLinkParms& m)
 {
     XdrWriter w;
     w.putInt(m.clientId);
@@ -15,7 +15,7 @@ std::vector<uint8_t> encode(const CreateLinkParms &m)
     return std::move(w.bytes());
 }
 
-std::vector<uint8_t> encode(const CreateLinkResp &m)
+std::vector<uint8_t> encode(const CreateLinkResp& m)
 {
     XdrWriter w;
     w.putInt(m.error);
@@ -25,7 +25,7 @@ std::vector<uint8_t> encode(const CreateLinkResp &m)
     return std::move(w.bytes());
 }
 
-std::vector<uint8_t> encode(const WriteParms &m)
+std::vector<uint8_t> encode(const WriteParms& m)
 {
     XdrWriter w;
     w.putUint(m.linkId);
@@ -36,7 +36,7 @@ std::vector<uint8_t> encode(const WriteParms &m)
     return std::move(w.bytes());
 }
 
-std::vector<uint8_t> encode(const WriteResp &m)
+std::vector<uint8_t> encode(const WriteResp& m)
 {
     XdrWriter w;
     w.putInt(m.error);
@@ -44,7 +44,7 @@ std::vector<uint8_t> encode(const WriteResp &m)
     return std::move(w.bytes());
 }
 
-std::vector<uint8_t> encode(const ReadParms &m)
+std::vector<uint8_t> encode(const ReadParms& m)
 {
     XdrWriter w;
     w.putUint(m.linkId);
@@ -56,7 +56,7 @@ std::vector<uint8_t> encode(const ReadParms &m)
     return std::move(w.bytes());
 }
 
-std::vector<uint8_t> encode(const ReadResp &m)
+std::vector<uint8_t> encode(const ReadResp& m)
 {
     XdrWriter w;
     w.putInt(m.error);
@@ -65,7 +65,7 @@ std::vector<uint8_t> encode(const ReadResp &m)
     return std::move(w.bytes());
 }
 
-std::vector<uint8_t> encode(const GenericParms &m)
+std::vector<uint8_t> encode(const GenericParms& m)
 {
     XdrWriter w;
     w.putUint(m.linkId);
@@ -75,7 +75,7 @@ std::vector<uint8_t> encode(const GenericParms &m)
     return std::move(w.bytes());
 }
 
-std::vector<uint8_t> encode(const GetPortParms &m)
+std::vector<uint8_t> encode(const GetPortParms& m)
 {
     XdrWriter w;
     w.putUint(m.program);
@@ -99,7 +99,7 @@ std::vector<uint8_t> encodeUint(uint32_t value)
     return std::move(w.bytes());
 }
 
-bool decode(const uint8_t *data, size_t size, CreateLinkParms &m)
+bool decode(const uint8_t* data, size_t size, CreateLinkParms& m)
 {
     XdrReader r(data, size);
     m.clientId = r.getInt();
@@ -109,7 +109,7 @@ bool decode(const uint8_t *data, size_t size, CreateLinkParms &m)
     return r.ok();
 }
 
-bool decode(const uint8_t *data, size_t size, CreateLinkResp &m)
+bool decode(const uint8_t* data, size_t size, CreateLinkResp& m)
 {
     XdrReader r(data, size);
     m.error = r.getInt();
@@ -119,7 +119,7 @@ bool decode(const uint8_t *data, size_t size, CreateLinkResp &m)
     return r.ok();
 }
 
-bool decode(const uint8_t *data, size_t size, WriteParms &m)
+bool decode(const uint8_t* data, size_t size, WriteParms& m)
 {
     XdrReader r(data, size);
     m.linkId = r.getUint();
@@ -130,7 +130,7 @@ bool decode(const uint8_t *data, size_t size, WriteParms &m)
     return r.ok();
 }
 
-bool decode(const uint8_t *data, size_t size, WriteResp &m)
+bool decode(const uint8_t* data, size_t size, WriteResp& m)
 {
     XdrReader r(data, size);
     m.error = r.getInt();
@@ -138,7 +138,7 @@ bool decode(const uint8_t *data, size_t size, WriteResp &m)
     return r.ok();
 }
 
-bool decode(const uint8_t *data, size_t size, ReadParms &m)
+bool decode(const uint8_t* data, size_t size, ReadParms& m)
 {
     XdrReader r(data, size);
     m.linkId = r.getUint();
@@ -150,7 +150,7 @@ bool decode(const uint8_t *data, size_t size, ReadParms &m)
     return r.ok();
 }
 
-bool decode(const uint8_t *data, size_t size, ReadResp &m)
+bool decode(const uint8_t* data, size_t size, ReadResp& m)
 {
     XdrReader r(data, size);
     m.error = r.getInt();
@@ -159,7 +159,7 @@ bool decode(const uint8_t *data, size_t size, ReadResp &m)
     return r.ok();
 }
 
-bool decode(const uint8_t *data, size_t size, GenericParms &m)
+bool decode(const uint8_t* data, size_t size, GenericParms& m)
 {
     XdrReader r(data, size);
     m.linkId = r.getUint();
@@ -169,7 +169,7 @@ bool decode(const uint8_t *data, size_t size, GenericParms &m)
     return r.ok();
 }
 
-bool decode(const uint8_t *data, size_t size, GetPortParms &m)
+bool decode(const uint8_t* data, size_t size, GetPortParms& m)
 {
     XdrReader r(data, size);
     m.program = r.getUint();
@@ -179,14 +179,14 @@ bool decode(const uint8_t *data, size_t size, GetPortParms &m)
     return r.ok();
 }
 
-bool decodeError(const uint8_t *data, size_t size, int32_t &error)
+bool decodeError(const uint8_t* data, size_t size, int32_t& error)
 {
     XdrReader r(data, size);
     error = r.getInt();
     return r.ok();
 }
 
-bool decodeUint(const uint8_t *data, size_t size, uint32_t &value)
+bool decodeUint(const uint8_t* data, size_t size, uint32_t& value)
 {
     XdrReader r(data, size);
     value = r.getUint();

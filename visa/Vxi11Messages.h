@@ -129,27 +129,27 @@ struct GetPortParms
     uint32_t port = 0;
 };
 
-std::vector<uint8_t> encode(const CreateLinkParms &m);
-std::vector<uint8_t> encode(const CreateLinkResp &m);
-std::vector<uint8_t> encode(const WriteParms &m);
-std::vector<uint8_t> encode(const WriteResp &m);
-std::vector<uint8_t> encode(const ReadParms &m);
-std::vector<uint8_t> encode(const ReadResp &m);
-std::vector<uint8_t> encode(const GenericParms &m);
-std::vector<uint8_t> encode(const GetPortParms &m);
-std::vector<uint8_t> encodeError(int32_t error);  // Device_Error and Device_Link's one-field forms
+std::vector<uint8_t> encode(const CreateLinkParms& m);
+std::vector<uint8_t> encode(const CreateLinkResp& m);
+std::vector<uint8_t> encode(const WriteParms& m);
+std::vector<uint8_t> encode(const WriteResp& m);
+std::vector<uint8_t> encode(const ReadParms& m);
+std::vector<uint8_t> encode(const ReadResp& m);
+std::vector<uint8_t> encode(const GenericParms& m);
+std::vector<uint8_t> encode(const GetPortParms& m);
+std::vector<uint8_t> encodeError(int32_t error); // Device_Error and Device_Link's one-field forms
 std::vector<uint8_t> encodeUint(uint32_t value);
 
 // Each decodes the whole buffer; false when it is short or declares an oversized field.
-bool decode(const uint8_t *data, size_t size, CreateLinkParms &m);
-bool decode(const uint8_t *data, size_t size, CreateLinkResp &m);
-bool decode(const uint8_t *data, size_t size, WriteParms &m);
-bool decode(const uint8_t *data, size_t size, WriteResp &m);
-bool decode(const uint8_t *data, size_t size, ReadParms &m);
-bool decode(const uint8_t *data, size_t size, ReadResp &m);
-bool decode(const uint8_t *data, size_t size, GenericParms &m);
-bool decode(const uint8_t *data, size_t size, GetPortParms &m);
-bool decodeError(const uint8_t *data, size_t size, int32_t &error);
-bool decodeUint(const uint8_t *data, size_t size, uint32_t &value);
+bool decode(const uint8_t* data, size_t size, CreateLinkParms& m);
+bool decode(const uint8_t* data, size_t size, CreateLinkResp& m);
+bool decode(const uint8_t* data, size_t size, WriteParms& m);
+bool decode(const uint8_t* data, size_t size, WriteResp& m);
+bool decode(const uint8_t* data, size_t size, ReadParms& m);
+bool decode(const uint8_t* data, size_t size, ReadResp& m);
+bool decode(const uint8_t* data, size_t size, GenericParms& m);
+bool decode(const uint8_t* data, size_t size, GetPortParms& m);
+bool decodeError(const uint8_t* data, size_t size, int32_t& error);
+bool decodeUint(const uint8_t* data, size_t size, uint32_t& value);
 
 } // namespace vxi11

@@ -6,12 +6,12 @@ uint32_t XdrReader::getUint()
         m_failed = true;
         return 0;
     }
-    const uint8_t *p = m_data + m_pos;
+    const uint8_t* p = m_data + m_pos;
     m_pos += 4;
     return (uint32_t(p[0]) << 24) | (uint32_t(p[1]) << 16) | (uint32_t(p[2]) << 8) | uint32_t(p[3]);
 }
 
-bool XdrReader::getOpaqueView(const uint8_t *&data, size_t &size, size_t maxSize)
+bool XdrReader::getOpaqueView(const uint8_t*& data, size_t& size, size_t maxSize)
 {
     const uint32_t length = getUint();
     if (m_failed)
@@ -27,9 +27,9 @@ bool XdrReader::getOpaqueView(const uint8_t *&data, size_t &size, size_t maxSize
     return true;
 }
 
-bool XdrReader::getOpaque(std::vector<uint8_t> &out, size_t maxSize)
+bool XdrReader::getOpaque(std::vector<uint8_t>& out, size_t maxSize)
 {
-    const uint8_t *data = nullptr;
+    const uint8_t* data = nullptr;
     size_t size = 0;
     if (!getOpaqueView(data, size, maxSize))
         return false;
@@ -37,13 +37,13 @@ bool XdrReader::getOpaque(std::vector<uint8_t> &out, size_t maxSize)
     return true;
 }
 
-bool XdrReader::getString(std::string &out, size_t maxSize)
+bool XdrReader::getString(std::string& out, size_t maxSize)
 {
-    const uint8_t *data = nullptr;
+    const uint8_t* data = nullptr;
     size_t size = 0;
     if (!getOpaqueView(data, size, maxSize))
         return false;
-    out.assign(reinterpret_cast<const char *>(data), size);
+    out.assign(reinterpret_cast<const char*>(data), size);
     return true;
 }
 

@@ -8,10 +8,10 @@ void XdrWriter::putUint(uint32_t value)
     m_bytes.push_back(static_cast<uint8_t>(value));
 }
 
-void XdrWriter::putOpaque(const void *data, size_t size)
+void XdrWriter::putOpaque(const void* data, size_t size)
 {
     putUint(static_cast<uint32_t>(size));
-    const auto *p = static_cast<const uint8_t *>(data);
+    const auto* p = static_cast<const uint8_t*>(data);
     if (size > 0)
         m_bytes.insert(m_bytes.end(), p, p + size);
     m_bytes.resize(m_bytes.size() + ((4 - size % 4) % 4), 0);

@@ -18,10 +18,10 @@ typedef signed int ViInt32;
 typedef ViInt32 ViStatus;
 typedef ViUInt32 ViObject;
 typedef ViObject ViSession;
-typedef ViSession *ViPSession;
+typedef ViSession* ViPSession;
 typedef char ViChar;
-typedef ViChar *ViString;
-typedef const ViChar *ViConstString;
+typedef ViChar* ViString;
+typedef const ViChar* ViConstString;
 typedef ViString ViRsrc;
 typedef ViConstString ViConstRsrc;
 typedef ViUInt32 ViAccessMode;
@@ -71,19 +71,19 @@ typedef ViUInt32 ViAccessMode;
 #define VI_ERROR_CONN_LOST ((ViStatus)(VI_ERROR + 0x3FFF00A6))
 
 VXIVISA_EXPORT ViStatus VI_FUNCC viOpenDefaultRM(ViPSession vi);
-VXIVISA_EXPORT ViStatus VI_FUNCC viOpen(ViSession sesn, ViRsrc name, ViAccessMode mode,
-                                        ViUInt32 timeout, ViPSession vi);
+VXIVISA_EXPORT ViStatus VI_FUNCC viOpen(
+    ViSession sesn, ViRsrc name, ViAccessMode mode, ViUInt32 timeout, ViPSession vi);
 VXIVISA_EXPORT ViStatus VI_FUNCC viClose(ViObject vi);
 VXIVISA_EXPORT ViStatus VI_FUNCC viClear(ViSession vi);
 VXIVISA_EXPORT ViStatus VI_FUNCC viPrintf(ViSession vi, ViString writeFmt, ...);
 VXIVISA_EXPORT ViStatus VI_FUNCC viScanf(ViSession vi, ViString readFmt, ...);
 
-typedef ViStatus(VI_FUNCC *ViOpenDefaultRMFunc)(ViPSession);
-typedef ViStatus(VI_FUNCC *ViOpenFunc)(ViSession, ViRsrc, ViAccessMode, ViUInt32, ViPSession);
-typedef ViStatus(VI_FUNCC *ViCloseFunc)(ViObject);
-typedef ViStatus(VI_FUNCC *ViClearFunc)(ViSession);
-typedef ViStatus(VI_FUNCC *ViPrintfFunc)(ViSession, ViString, ...);
-typedef ViStatus(VI_FUNCC *ViScanfFunc)(ViSession, ViString, ...);
+typedef ViStatus(VI_FUNCC* ViOpenDefaultRMFunc)(ViPSession);
+typedef ViStatus(VI_FUNCC* ViOpenFunc)(ViSession, ViRsrc, ViAccessMode, ViUInt32, ViPSession);
+typedef ViStatus(VI_FUNCC* ViCloseFunc)(ViObject);
+typedef ViStatus(VI_FUNCC* ViClearFunc)(ViSession);
+typedef ViStatus(VI_FUNCC* ViPrintfFunc)(ViSession, ViString, ...);
+typedef ViStatus(VI_FUNCC* ViScanfFunc)(ViSession, ViString, ...);
 
 #ifdef __cplusplus
 }

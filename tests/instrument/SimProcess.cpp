@@ -10,7 +10,7 @@ SimProcess::~SimProcess()
     }
 }
 
-bool SimProcess::start(const QStringList &arguments, QString *error)
+bool SimProcess::start(const QStringList& arguments, QString* error)
 {
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
     m_process.start(QStringLiteral(SIM33210A_FILE), arguments);
@@ -27,7 +27,8 @@ bool SimProcess::start(const QStringList &arguments, QString *error)
         }
     }
     const QString line = QString::fromUtf8(m_process.readLine()).trimmed();
-    const QRegularExpression ready(QStringLiteral("^SIM33210A_READY address=\\S+ portmapper=(\\d+) core=(\\d+)$"));
+    const QRegularExpression ready(
+        QStringLiteral("^SIM33210A_READY address=\\S+ portmapper=(\\d+) core=(\\d+)$"));
     const QRegularExpressionMatch match = ready.match(line);
     if (!match.hasMatch()) {
         if (error)

@@ -10,7 +10,7 @@ class SimProcess
 public:
     ~SimProcess();
 
-    bool start(const QStringList &arguments, QString *error = nullptr);
+    bool start(const QStringList& arguments, QString* error = nullptr);
     // Exit code after SIGTERM, or -1 if it didn't exit by itself in time.
     int stop();
 

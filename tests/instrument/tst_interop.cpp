@@ -19,7 +19,7 @@ struct Run
     QByteArray output;
 };
 
-Run run(const QString &program, const QStringList &arguments)
+Run run(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
@@ -60,7 +60,8 @@ void tst_Interop::initTestCase()
 
 void tst_Interop::pyvisaPy()
 {
-    if (!QFileInfo::exists(kPython) || run(kPython, {"-c", "import pyvisa, pyvisa_py"}).exitCode != 0)
+    if (!QFileInfo::exists(kPython)
+        || run(kPython, { "-c", "import pyvisa, pyvisa_py" }).exitCode != 0)
         QSKIP("Debian's python3-pyvisa-py is not installed (tools/apt-packages.txt lists it)");
     const QString script = QStringLiteral(
         "import pyvisa\n"
@@ -69,7 +70,7 @@ void tst_Interop::pyvisaPy()
         "print(inst.query('*IDN?').strip())\n"
         "print(inst.query('FREQ?').strip())\n"
         "inst.close()\n");
-    const Run result = run(kPython, {"-c", script});
+    const Run result = run(kPython, { "-c", script });
     QVERIFY2(result.exitCode == 0, result.output.constData());
     const QList<QByteArray> lines = result.output.trimmed().split('\n');
     QCOMPARE(lines.size(), 2);
@@ -92,7 +93,7 @@ void tst_Interop::lxiTools()
     const QString lxi = QStandardPaths::findExecutable(QStringLiteral("lxi"));
     if (lxi.isEmpty())
         QSKIP("Debian's lxi-tools is not installed (tools/apt-packages.txt lists it)");
-    const Run result = run(lxi, {"scpi", "-a", "127.0.0.1", command});
+    const Run result = run(lxi, { "scpi", "-a", "127.0.0.1", command });
     QVERIFY2(result.exitCode == 0, result.output.constData());
     QVERIFY2(result.output.trimmed().startsWith(replyStart), result.output.constData());
 }

@@ -16,12 +16,12 @@
 namespace {
 constexpr int kTimeoutMs = 500;
 
-ViStatus openInstrument(ViSession rm, ViSession &vi)
+ViStatus openInstrument(ViSession rm, ViSession& vi)
 {
     return viOpen(rm, const_cast<ViRsrc>("TCPIP0::127.0.0.1::inst0::INSTR"), VI_NO_LOCK, 0, &vi);
 }
 
-ViStatus query(ViSession vi, const char *command, QByteArray &reply)
+ViStatus query(ViSession vi, const char* command, QByteArray& reply)
 {
     const ViStatus written = viPrintf(vi, const_cast<ViString>(command));
     if (written < VI_SUCCESS)
@@ -32,23 +32,23 @@ ViStatus query(ViSession vi, const char *command, QByteArray &reply)
     return status;
 }
 
-QByteArray readFile(const QString &path)
+QByteArray readFile(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // Sends raw bytes to a loopback port and waits briefly for whatever comes back.
-void sendRaw(quint16 port, const QByteArray &bytes)
+void sendRaw(quint16 port, const QByteArray& bytes)
 {
     const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in addr = {};
     addr.sin_family = AF_INET;
     addr.sin_port = htons(port);
     addr.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    if (::connect(fd, reinterpret_cast<sockaddr *>(&addr), sizeof addr) == 0) {
+    if (::connect(fd, reinterpret_cast<sockaddr*>(&addr), sizeof addr) == 0) {
         (void)!::send(fd, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL);
-        timeval tv = {0, 200000};
+        timeval tv = { 0, 200000 };
         ::setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &tv, sizeof tv);
         char sink[256];
         (void)!::recv(fd, sink, sizeof sink, 0);
@@ -61,7 +61,7 @@ QByteArray words(std::initializer_list<quint32> values)
     QByteArray out;
     for (const quint32 v : values) {
         const quint32 be = htonl(v);
-        out.append(reinterpret_cast<const char *>(&be), 4);
+        out.append(reinterpret_cast<const char*>(&be), 4);
     }
     return out;
 }
@@ -123,7 +123,7 @@ void tst_Sim33210a::logsTheSetupSequenceInOrder()
 {
     const QString log = m_dir.filePath("setup.log");
     SimProcess sim;
-    QVERIFY(sim.start({"--log", log}));
+    QVERIFY(sim.start({ "--log", log }));
     ViSession vi = 0;
     QCOMPARE(openInstrument(m_rm, vi), VI_SUCCESS);
     QCOMPARE(viPrintf(vi, const_cast<ViString>("*RST\n")), VI_SUCCESS);
@@ -134,8 +134,9 @@ void tst_Sim33210a::logsTheSetupSequenceInOrder()
     QCOMPARE(reply, QByteArray("+4.00000000000000E+03\n"));
     QCOMPARE(viClose(vi), VI_SUCCESS);
     QCOMPARE(sim.stop(), 0);
-    QCOMPARE(readFile(log), QByteArray("<link 1 open>\n*RST\n<device clear>\nFREQ 4000\nFREQ?\n"
-                                       "<link 1 closed>\n"));
+    QCOMPARE(readFile(log),
+        QByteArray("<link 1 open>\n*RST\n<device clear>\nFREQ 4000\nFREQ?\n"
+                   "<link 1 closed>\n"));
 }
 
 // A test counts the links left open from the log alone: a link whose connection ends without
@@ -144,7 +145,7 @@ void tst_Sim33210a::logsLinksLostWithTheirConnection()
 {
     const QString log = m_dir.filePath("links.log");
     SimProcess sim;
-    QVERIFY(sim.start({"--log", log, "--drop-mid-reply"}));
+    QVERIFY(sim.start({ "--log", log, "--drop-mid-reply" }));
     ViSession dropped = 0;
     ViSession kept = 0;
     QCOMPARE(openInstrument(m_rm, dropped), VI_SUCCESS);
@@ -181,15 +182,20 @@ void tst_Sim33210a::survivesMalformedRpc_data()
 {
     QTest::addColumn<bool>("toPortmapper");
     QTest::addColumn<QByteArray>("bytes");
-    const QByteArray call = words({1, 0, 2, 0x0607AF, 1, 11, 0, 0, 0, 0});
+    const QByteArray call = words({ 1, 0, 2, 0x0607AF, 1, 11, 0, 0, 0, 0 });
     QTest::newRow("noise") << false << QByteArray("GET / HTTP/1.0\r\n\r\n");
-    QTest::newRow("record claims 2 GB") << false << words({0xFFFFFFF0}) + QByteArray(64, 'x');
-    QTest::newRow("record cut short, then hang-up") << false << words({0x80000100, 1, 0});
-    QTest::newRow("wrong RPC version") << true << words({0x80000028, 1, 0, 3, 100000, 2, 3, 0, 0, 0, 0});
-    QTest::newRow("auth longer than allowed") << true << words({0x80000020, 1, 0, 2, 100000, 2, 3, 0, 5000});
+    QTest::newRow("record claims 2 GB") << false << words({ 0xFFFFFFF0 }) + QByteArray(64, 'x');
+    QTest::newRow("record cut short, then hang-up") << false << words({ 0x80000100, 1, 0 });
+    QTest::newRow("wrong RPC version")
+        << true << words({ 0x80000028, 1, 0, 3, 100000, 2, 3, 0, 0, 0, 0 });
+    QTest::newRow("auth longer than allowed")
+        << true << words({ 0x80000020, 1, 0, 2, 100000, 2, 3, 0, 5000 });
     QTest::newRow("device_write declaring more data than sent")
-        << false << words({0x80000000 | quint32(call.size() + 20)}) + call + words({1, 0, 0, 8, 0x7FFFFFFF});
-    QTest::newRow("GETPORT without arguments") << true << words({0x80000028, 1, 0, 2, 100000, 2, 3, 0, 0, 0, 0});
+        << false
+        << words({ 0x80000000 | quint32(call.size() + 20) }) + call
+            + words({ 1, 0, 0, 8, 0x7FFFFFFF });
+    QTest::newRow("GETPORT without arguments")
+        << true << words({ 0x80000028, 1, 0, 2, 100000, 2, 3, 0, 0, 0, 0 });
 }
 
 void tst_Sim33210a::survivesMalformedRpc()
@@ -213,21 +219,25 @@ void tst_Sim33210a::faultFlags_data()
     QTest::addColumn<int>("openStatus");
     QTest::addColumn<int>("queryStatus");
     QTest::addColumn<QByteArray>("replyStart");
-    QTest::newRow("silent portmapper") << QStringList{"--silent-at", "portmapper"} << int(VI_ERROR_TMO) << 0
-                                       << QByteArray();
-    QTest::newRow("silent create_link") << QStringList{"--silent-at", "create_link"} << int(VI_ERROR_TMO) << 0
-                                        << QByteArray();
-    QTest::newRow("silent device_read") << QStringList{"--silent-at", "device_read"} << int(VI_SUCCESS)
-                                        << int(VI_ERROR_TMO) << QByteArray();
-    QTest::newRow("drops the connection mid-reply") << QStringList{"--drop-mid-reply"} << int(VI_SUCCESS)
-                                                    << int(VI_ERROR_CONN_LOST) << QByteArray();
-    QTest::newRow("answers garbage") << QStringList{"--garbage"} << int(VI_SUCCESS) << int(VI_ERROR_IO)
-                                     << QByteArray();
-    QTest::newRow("no links left") << QStringList{"--max-links", "0"} << int(VI_ERROR_ALLOC) << 0 << QByteArray();
-    QTest::newRow("slow but within the time-out") << QStringList{"--delay-ms", "100"} << int(VI_SUCCESS)
-                                                  << int(VI_SUCCESS) << QByteArray("Simulated Instruments Inc.,33210A,");
-    QTest::newRow("another model") << QStringList{"--model", "33220A"} << int(VI_SUCCESS) << int(VI_SUCCESS)
-                                   << QByteArray("Simulated Instruments Inc.,33220A,");
+    QTest::newRow("silent portmapper")
+        << QStringList { "--silent-at", "portmapper" } << int(VI_ERROR_TMO) << 0 << QByteArray();
+    QTest::newRow("silent create_link")
+        << QStringList { "--silent-at", "create_link" } << int(VI_ERROR_TMO) << 0 << QByteArray();
+    QTest::newRow("silent device_read") << QStringList { "--silent-at", "device_read" }
+                                        << int(VI_SUCCESS) << int(VI_ERROR_TMO) << QByteArray();
+    QTest::newRow("drops the connection mid-reply")
+        << QStringList { "--drop-mid-reply" } << int(VI_SUCCESS) << int(VI_ERROR_CONN_LOST)
+        << QByteArray();
+    QTest::newRow("answers garbage")
+        << QStringList { "--garbage" } << int(VI_SUCCESS) << int(VI_ERROR_IO) << QByteArray();
+    QTest::newRow("no links left")
+        << QStringList { "--max-links", "0" } << int(VI_ERROR_ALLOC) << 0 << QByteArray();
+    QTest::newRow("slow but within the time-out")
+        << QStringList { "--delay-ms", "100" } << int(VI_SUCCESS) << int(VI_SUCCESS)
+        << QByteArray("Simulated Instruments Inc.,33210A,");
+    QTest::newRow("another model")
+        << QStringList { "--model", "33220A" } << int(VI_SUCCESS) << int(VI_SUCCESS)
+        << QByteArray("Simulated Instruments Inc.,33220A,");
 }
 
 void tst_Sim33210a::faultFlags()

@@ -6,7 +6,10 @@
 #include <chrono>
 #include <thread>
 
-FakeVxi11Server::FakeVxi11Server() : m_server(*this) {}
+FakeVxi11Server::FakeVxi11Server()
+    : m_server(*this)
+{
+}
 
 FakeVxi11Server::~FakeVxi11Server()
 {
@@ -22,7 +25,7 @@ bool FakeVxi11Server::start()
     return true;
 }
 
-void FakeVxi11Server::addRead(const ReadStep &step)
+void FakeVxi11Server::addRead(const ReadStep& step)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     m_reads.push_back(step);
@@ -70,8 +73,8 @@ void FakeVxi11Server::connectionClosed(uint64_t)
     --m_connections;
 }
 
-RpcHandler::Action FakeVxi11Server::handle(uint64_t connectionId, const RpcCodec::Call &call,
-                                           const uint8_t *args, size_t size)
+RpcHandler::Action FakeVxi11Server::handle(
+    uint64_t connectionId, const RpcCodec::Call& call, const uint8_t* args, size_t size)
 {
     Action action;
     std::unique_lock<std::mutex> lock(m_mutex);
@@ -95,7 +98,7 @@ RpcHandler::Action FakeVxi11Server::handle(uint64_t connectionId, const RpcCodec
     case vxi11::DeviceWrite: {
         vxi11::WriteParms parms;
         vxi11::decode(args, size, parms);
-        m_writes.push_back({parms.data.size(), (parms.flags & vxi11::FlagEnd) != 0});
+        m_writes.push_back({ parms.data.size(), (parms.flags & vxi11::FlagEnd) != 0 });
         m_input.append(parms.data.begin(), parms.data.end());
         if (parms.flags & vxi11::FlagEnd) {
             m_messages.push_back(m_input);

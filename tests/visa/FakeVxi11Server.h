@@ -39,8 +39,8 @@ public:
     void setMaxRecvSize(uint32_t size) { m_maxRecvSize = size; }
     // The next device_write answers with this error.
     void failNextWrite(int32_t error);
-    void addRead(const ReadStep &step);
-    void addReply(const std::string &data) { addRead({data, 4, 0, 0, Action::Reply}); }
+    void addRead(const ReadStep& step);
+    void addReply(const std::string& data) { addRead({ data, 4, 0, 0, Action::Reply }); }
 
     std::vector<WriteChunk> writes();
     // Every complete message written, in order.
@@ -50,8 +50,8 @@ public:
     int openConnections();
 
 private:
-    Action handle(uint64_t connectionId, const RpcCodec::Call &call, const uint8_t *args,
-                  size_t size) override;
+    Action handle(uint64_t connectionId, const RpcCodec::Call& call, const uint8_t* args,
+        size_t size) override;
     void connectionClosed(uint64_t connectionId) override;
 
     RpcServer m_server;

@@ -11,7 +11,7 @@
 #include <string>
 
 namespace {
-ViStatus formatted(std::string &out, const char *fmt, ...)
+ViStatus formatted(std::string& out, const char* fmt, ...)
 {
     va_list args;
     va_start(args, fmt);
@@ -20,7 +20,7 @@ ViStatus formatted(std::string &out, const char *fmt, ...)
     return status;
 }
 
-ViStatus scanned(const std::string &input, const char *fmt, ...)
+ViStatus scanned(const std::string& input, const char* fmt, ...)
 {
     va_list args;
     va_start(args, fmt);
@@ -57,20 +57,37 @@ void tst_VisaFormat::resourceNames_data()
     const int ok = int(ResourceName::Result::Ok);
     const int invalid = int(ResourceName::Result::Invalid);
     const int unsupported = int(ResourceName::Result::Unsupported);
-    QTest::newRow("the plug-in's form") << "TCPIP0::192.168.0.5::inst0::INSTR" << ok << "192.168.0.5" << "inst0";
-    QTest::newRow("no board, device defaults to inst0") << "TCPIP::host.lan::INSTR" << ok << "host.lan" << "inst0";
-    QTest::newRow("gateway device name with comma") << "TCPIP0::10.0.0.1::gpib0,10::INSTR" << ok << "10.0.0.1" << "gpib0,10";
-    QTest::newRow("keywords in any case") << "tcpip1::h::inst2::instr" << ok << "h" << "inst2";
-    QTest::newRow("bracketed IPv6 keeps its colons") << "TCPIP0::[::1]::INSTR" << ok << "::1" << "inst0";
-    QTest::newRow("raw socket is not VXI-11") << "TCPIP0::h::5025::SOCKET" << unsupported << "" << "";
-    QTest::newRow("HiSLIP is not VXI-11") << "TCPIP0::h::hislip0::INSTR" << unsupported << "" << "";
-    QTest::newRow("other interface") << "GPIB0::10::INSTR" << unsupported << "" << "";
-    QTest::newRow("empty") << "" << invalid << "" << "";
-    QTest::newRow("empty host") << "TCPIP0::::INSTR" << invalid << "" << "";
-    QTest::newRow("class missing") << "TCPIP0::h" << invalid << "" << "";
-    QTest::newRow("too many parts") << "TCPIP0::h::inst0::x::INSTR" << invalid << "" << "";
-    QTest::newRow("board not a number") << "TCPIPx::h::INSTR" << invalid << "" << "";
-    QTest::newRow("blank inside the host") << "TCPIP0::a b::INSTR" << invalid << "" << "";
+    QTest::newRow("the plug-in's form")
+        << "TCPIP0::192.168.0.5::inst0::INSTR" << ok << "192.168.0.5"
+        << "inst0";
+    QTest::newRow("no board, device defaults to inst0")
+        << "TCPIP::host.lan::INSTR" << ok << "host.lan"
+        << "inst0";
+    QTest::newRow("gateway device name with comma")
+        << "TCPIP0::10.0.0.1::gpib0,10::INSTR" << ok << "10.0.0.1"
+        << "gpib0,10";
+    QTest::newRow("keywords in any case") << "tcpip1::h::inst2::instr" << ok << "h"
+                                          << "inst2";
+    QTest::newRow("bracketed IPv6 keeps its colons") << "TCPIP0::[::1]::INSTR" << ok << "::1"
+                                                     << "inst0";
+    QTest::newRow("raw socket is not VXI-11") << "TCPIP0::h::5025::SOCKET" << unsupported << ""
+                                              << "";
+    QTest::newRow("HiSLIP is not VXI-11") << "TCPIP0::h::hislip0::INSTR" << unsupported << ""
+                                          << "";
+    QTest::newRow("other interface") << "GPIB0::10::INSTR" << unsupported << ""
+                                     << "";
+    QTest::newRow("empty") << "" << invalid << ""
+                           << "";
+    QTest::newRow("empty host") << "TCPIP0::::INSTR" << invalid << ""
+                                << "";
+    QTest::newRow("class missing") << "TCPIP0::h" << invalid << ""
+                                   << "";
+    QTest::newRow("too many parts") << "TCPIP0::h::inst0::x::INSTR" << invalid << ""
+                                    << "";
+    QTest::newRow("board not a number") << "TCPIPx::h::INSTR" << invalid << ""
+                                        << "";
+    QTest::newRow("blank inside the host") << "TCPIP0::a b::INSTR" << invalid << ""
+                                           << "";
 }
 
 void tst_VisaFormat::resourceNames()
@@ -138,7 +155,7 @@ void tst_VisaFormat::scanNeverWritesPastWidth()
     const std::string reply(size_t(replySize), 'x');
     // The caller's buffer is exactly width bytes; guards on both sides catch any overrun.
     std::vector<char> memory(size_t(width) + 64, '#');
-    char *buffer = memory.data() + 32;
+    char* buffer = memory.data() + 32;
     const QByteArray format = "%" + QByteArray::number(width) + "t";
     QCOMPARE(scanned(reply, format.constData(), buffer), VI_SUCCESS);
     QCOMPARE(int(std::count(buffer, buffer + copied, 'x')), copied);

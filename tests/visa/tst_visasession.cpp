@@ -1,7 +1,7 @@
 // The VISA entry points against a scripted VXI-11 server on loopback: the read loop, the error
 // mapping, and what a slow or broken instrument must never do to the next call.
-#include "FakeVxi11Server.h"
 #include "../NetNamespace.h"
+#include "FakeVxi11Server.h"
 #include "visa.h"
 
 #include <QtTest>
@@ -44,7 +44,7 @@ private slots:
 
 private:
     ViStatus open();
-    ViStatus query(const char *command, QByteArray &reply);
+    ViStatus query(const char* command, QByteArray& reply);
 
     std::unique_ptr<FakeVxi11Server> m_server;
     ViSession m_rm = 0;
@@ -74,10 +74,11 @@ void tst_VisaSession::cleanup()
 
 ViStatus tst_VisaSession::open()
 {
-    return viOpen(m_rm, const_cast<ViRsrc>("TCPIP0::127.0.0.1::inst0::INSTR"), VI_NO_LOCK, 0, &m_vi);
+    return viOpen(
+        m_rm, const_cast<ViRsrc>("TCPIP0::127.0.0.1::inst0::INSTR"), VI_NO_LOCK, 0, &m_vi);
 }
 
-ViStatus tst_VisaSession::query(const char *command, QByteArray &reply)
+ViStatus tst_VisaSession::query(const char* command, QByteArray& reply)
 {
     const ViStatus written = viPrintf(m_vi, const_cast<ViString>(command));
     if (written < VI_SUCCESS)
@@ -93,14 +94,16 @@ void tst_VisaSession::readsWholeMessage_data()
 {
     QTest::addColumn<std::vector<Step>>("steps");
     QTest::addColumn<QByteArray>("expected");
-    QTest::newRow("END in the first chunk") << std::vector<Step>{{"+1.0E+03\n", kEnd}} << QByteArray("+1.0E+03\n");
-    QTest::newRow("chunks until END")
-        << std::vector<Step>{{"ab", kReqCnt}, {"cd", kReqCnt}, {"e\n", kEnd}} << QByteArray("abcde\n");
-    QTest::newRow("empty chunk in between")
-        << std::vector<Step>{{"ab", kReqCnt}, {"", 0}, {"c\n", kEnd}} << QByteArray("abc\n");
+    QTest::newRow("END in the first chunk")
+        << std::vector<Step> { { "+1.0E+03\n", kEnd } } << QByteArray("+1.0E+03\n");
+    QTest::newRow("chunks until END") << std::vector<Step> { { "ab", kReqCnt }, { "cd", kReqCnt },
+        { "e\n", kEnd } } << QByteArray("abcde\n");
+    QTest::newRow("empty chunk in between") << std::vector<Step> { { "ab", kReqCnt }, { "", 0 },
+        { "c\n", kEnd } } << QByteArray("abc\n");
     QTest::newRow("exact multiple of the chunk, END on an empty chunk")
-        << std::vector<Step>{{"abcd", kReqCnt}, {"", kEnd}} << QByteArray("abcd");
-    QTest::newRow("term char ends the message") << std::vector<Step>{{"ok\n", kChr}} << QByteArray("ok\n");
+        << std::vector<Step> { { "abcd", kReqCnt }, { "", kEnd } } << QByteArray("abcd");
+    QTest::newRow("term char ends the message")
+        << std::vector<Step> { { "ok\n", kChr } } << QByteArray("ok\n");
 }
 
 void tst_VisaSession::readsWholeMessage()
@@ -108,7 +111,7 @@ void tst_VisaSession::readsWholeMessage()
     QFETCH(std::vector<Step>, steps);
     QFETCH(QByteArray, expected);
     QCOMPARE(open(), VI_SUCCESS);
-    for (const Step &step : steps)
+    for (const Step& step : steps)
         m_server->addRead(step);
     QByteArray reply;
     QCOMPARE(query("FREQ?\n", reply), VI_SUCCESS);
@@ -121,21 +124,28 @@ void tst_VisaSession::readFailures_data()
     QTest::addColumn<std::vector<Step>>("steps");
     QTest::addColumn<int>("status");
     QTest::addColumn<bool>("recovers");
-    QTest::newRow("silent instrument times out") << std::vector<Step>{{"", 0, 0, 0, Kind::Silent}}
-                                                 << int(VI_ERROR_TMO) << true;
+    QTest::newRow("silent instrument times out")
+        << std::vector<Step> { { "", 0, 0, 0, Kind::Silent } } << int(VI_ERROR_TMO) << true;
     QTest::newRow("time-out with partial data is not kept for the next read")
-        << std::vector<Step>{{"stale", kReqCnt}, {"", 0, 0, 0, Kind::Silent}} << int(VI_ERROR_TMO) << true;
+        << std::vector<Step> { { "stale", kReqCnt }, { "", 0, 0, 0, Kind::Silent } }
+        << int(VI_ERROR_TMO) << true;
     QTest::newRow("late reply is not the next call's answer")
-        << std::vector<Step>{{"late\n", kEnd, 0, 700}} << int(VI_ERROR_TMO) << true;
-    QTest::newRow("device I/O timeout") << std::vector<Step>{{"", 0, 15}} << int(VI_ERROR_TMO) << true;
-    QTest::newRow("device I/O error") << std::vector<Step>{{"", 0, 17}} << int(VI_ERROR_IO) << true;
-    QTest::newRow("locked by another link") << std::vector<Step>{{"", 0, 11}} << int(VI_ERROR_RSRC_LOCKED) << true;
-    QTest::newRow("invalid link") << std::vector<Step>{{"", 0, 4}} << int(VI_ERROR_CONN_LOST) << true;
-    QTest::newRow("unknown error code still an error") << std::vector<Step>{{"", 0, 1234}} << int(VI_ERROR_IO) << true;
+        << std::vector<Step> { { "late\n", kEnd, 0, 700 } } << int(VI_ERROR_TMO) << true;
+    QTest::newRow("device I/O timeout")
+        << std::vector<Step> { { "", 0, 15 } } << int(VI_ERROR_TMO) << true;
+    QTest::newRow("device I/O error")
+        << std::vector<Step> { { "", 0, 17 } } << int(VI_ERROR_IO) << true;
+    QTest::newRow("locked by another link")
+        << std::vector<Step> { { "", 0, 11 } } << int(VI_ERROR_RSRC_LOCKED) << true;
+    QTest::newRow("invalid link") << std::vector<Step> { { "", 0, 4 } } << int(VI_ERROR_CONN_LOST)
+                                  << true;
+    QTest::newRow("unknown error code still an error")
+        << std::vector<Step> { { "", 0, 1234 } } << int(VI_ERROR_IO) << true;
     QTest::newRow("connection dropped mid-reply")
-        << std::vector<Step>{{"half\n", kEnd, 0, 0, Kind::DropMidReply}} << int(VI_ERROR_CONN_LOST) << false;
-    QTest::newRow("garbage reply") << std::vector<Step>{{"x\n", kEnd, 0, 0, Kind::Garbage}} << int(VI_ERROR_IO)
-                                   << false;
+        << std::vector<Step> { { "half\n", kEnd, 0, 0, Kind::DropMidReply } }
+        << int(VI_ERROR_CONN_LOST) << false;
+    QTest::newRow("garbage reply")
+        << std::vector<Step> { { "x\n", kEnd, 0, 0, Kind::Garbage } } << int(VI_ERROR_IO) << false;
 }
 
 void tst_VisaSession::readFailures()
@@ -144,7 +154,7 @@ void tst_VisaSession::readFailures()
     QFETCH(int, status);
     QFETCH(bool, recovers);
     QCOMPARE(open(), VI_SUCCESS);
-    for (const Step &step : steps)
+    for (const Step& step : steps)
         m_server->addRead(step);
     QByteArray reply;
     QElapsedTimer elapsed;
@@ -227,8 +237,8 @@ void tst_VisaSession::heldQueryStillReachesTheInstrument()
 void tst_VisaSession::longReplyFillsBufferAndIsDrained()
 {
     QCOMPARE(open(), VI_SUCCESS);
-    m_server->addRead({std::string(1000, 'y'), kReqCnt});
-    m_server->addRead({std::string(500, 'z') + "\n", kEnd});
+    m_server->addRead({ std::string(1000, 'y'), kReqCnt });
+    m_server->addRead({ std::string(500, 'z') + "\n", kEnd });
     QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*IDN?\n")), VI_SUCCESS);
     std::vector<char> memory(1024 + 16, '#');
     QVERIFY(viScanf(m_vi, const_cast<ViString>("%1024t"), memory.data()) >= VI_SUCCESS);
@@ -263,9 +273,10 @@ void tst_VisaSession::openFailures_data()
     const QByteArray good = "TCPIP0::127.0.0.1::inst0::INSTR";
     QTest::newRow("instrument out of links") << good << 9 << int(VI_ERROR_ALLOC);
     QTest::newRow("device name refused") << good << 21 << int(VI_ERROR_INV_RSRC_NAME);
-    QTest::newRow("nothing listening") << QByteArray("TCPIP0::127.0.0.2::inst0::INSTR") << 0
-                                       << int(VI_ERROR_RSRC_NFOUND);
-    QTest::newRow("malformed resource string") << QByteArray("TCPIP0::") << 0 << int(VI_ERROR_INV_RSRC_NAME);
+    QTest::newRow("nothing listening")
+        << QByteArray("TCPIP0::127.0.0.2::inst0::INSTR") << 0 << int(VI_ERROR_RSRC_NFOUND);
+    QTest::newRow("malformed resource string")
+        << QByteArray("TCPIP0::") << 0 << int(VI_ERROR_INV_RSRC_NAME);
 }
 
 void tst_VisaSession::openFailures()
@@ -294,7 +305,7 @@ void tst_VisaSession::staleHandlesAreRefused()
     // An instrument session is not a resource manager.
     QCOMPARE(open(), VI_SUCCESS);
     QCOMPARE(viOpen(m_vi, const_cast<ViRsrc>("TCPIP::127.0.0.1::INSTR"), VI_NO_LOCK, 0, &other),
-             VI_ERROR_INV_OBJECT);
+        VI_ERROR_INV_OBJECT);
 }
 
 NETNS_MAIN(tst_VisaSession)
