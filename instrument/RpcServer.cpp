@@ -9,6 +9,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -52,8 +53,9 @@ int bindSocket(
 
 } // namespace
 
-RpcServer::RpcServer(RpcHandler& handler)
+RpcServer::RpcServer(RpcHandler& handler, bool tcpNoDelay)
     : m_handler(handler)
+    , m_tcpNoDelay(tcpNoDelay)
 {
     if (::pipe2(m_wake, O_CLOEXEC | O_NONBLOCK) != 0)
         m_wake[0] = m_wake[1] = -1;
@@ -174,8 +176,10 @@ void RpcServer::acceptLoop(int listener)
         const int fd = ::accept4(listener, nullptr, nullptr, SOCK_CLOEXEC);
         if (fd < 0)
             continue;
-        const int one = 1;
-        ::setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &one, sizeof one);
+        if (m_tcpNoDelay) {
+            const int one = 1;
+            ::setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &one, sizeof one);
+        }
         reapFinished();
         std::lock_guard<std::mutex> lock(m_connectionsMutex);
         m_connections.emplace_back();
@@ -189,6 +193,13 @@ void RpcServer::serve(Connection* connection, uint64_t id)
 {
     const int fd = connection->fd;
     RpcStream stream(m_handler, id, kMaxRecordSize);
+    const RpcStream::Send send = [&](const std::vector<uint8_t>& record) {
+        // Anything here before this reply goes out was sent without waiting for it.
+        int waiting = 0;
+        if (stream.hasUnhandledInput() || (::ioctl(fd, FIONREAD, &waiting) == 0 && waiting > 0))
+            ++m_overlappingCalls;
+        return sendRecord(fd, record);
+    };
     bool open = true;
     // A blocking receive, woken directly by the data: stop() shuts the socket down to end it.
     while (open && !m_stopping) {
@@ -198,10 +209,7 @@ void RpcServer::serve(Connection* connection, uint64_t id)
             continue;
         if (n <= 0)
             break;
-        std::vector<uint8_t> outgoing;
-        open = stream.receive(buffer, static_cast<size_t>(n), outgoing);
-        if (!outgoing.empty() && !sendRecord(fd, outgoing))
-            open = false;
+        open = stream.receive(buffer, static_cast<size_t>(n), send);
     }
     ::shutdown(fd, SHUT_RDWR);
     m_handler.connectionClosed(id);

@@ -15,7 +15,10 @@
 class RpcServer
 {
 public:
-    explicit RpcServer(RpcHandler& handler);
+    // Without tcpNoDelay, Nagle's algorithm stays on, as most instrument firmware leaves it: a
+    // client that sends a call before the reply to the one ahead of it has arrived then waits
+    // for its own delayed acknowledgement.
+    explicit RpcServer(RpcHandler& handler, bool tcpNoDelay = false);
     ~RpcServer();
     RpcServer(const RpcServer&) = delete;
     RpcServer& operator=(const RpcServer&) = delete;
@@ -28,6 +31,10 @@ public:
     void start();
     // Closes every socket and joins every thread.
     void stop();
+
+    // Calls that had arrived before the reply to the call ahead of them went out on the same
+    // connection: a client that doesn't wait for each reply (or one that gave up waiting).
+    uint64_t overlappingCalls() const { return m_overlappingCalls; }
 
     static constexpr size_t kMaxRecordSize = size_t(2) * 1024 * 1024;
 
@@ -48,6 +55,7 @@ private:
     void reapFinished();
 
     RpcHandler& m_handler;
+    const bool m_tcpNoDelay;
     std::vector<int> m_tcpListeners;
     std::vector<int> m_udpSockets;
     std::vector<std::thread> m_threads;
@@ -55,5 +63,6 @@ private:
     std::list<Connection> m_connections;
     std::atomic<bool> m_stopping { false };
     std::atomic<uint64_t> m_nextConnectionId { 1 };
+    std::atomic<uint64_t> m_overlappingCalls { 0 };
     int m_wake[2] = { -1, -1 };
 };

@@ -20,6 +20,14 @@ RpcStream::RpcStream(RpcHandler& handler, uint64_t connectionId, size_t maxRecor
 
 bool RpcStream::receive(const uint8_t* data, size_t size, std::vector<uint8_t>& outgoing)
 {
+    return receive(data, size, [&outgoing](const std::vector<uint8_t>& record) {
+        outgoing.insert(outgoing.end(), record.begin(), record.end());
+        return true;
+    });
+}
+
+bool RpcStream::receive(const uint8_t* data, size_t size, const Send& send)
+{
     if (!m_open)
         return false;
     m_pending.insert(m_pending.end(), data, data + size);
@@ -37,10 +45,8 @@ bool RpcStream::receive(const uint8_t* data, size_t size, std::vector<uint8_t>& 
         if (!RpcCodec::parseCall(record.data(), record.size(), call)) {
             uint32_t xid = 0;
             // A call we can't read: tell the caller if we know who it is, then hang up.
-            if (RpcCodec::peekXid(record.data(), record.size(), xid)) {
-                const std::vector<uint8_t> refusal = RpcCodec::encodeRpcMismatch(xid);
-                outgoing.insert(outgoing.end(), refusal.begin(), refusal.end());
-            }
+            if (RpcCodec::peekXid(record.data(), record.size(), xid))
+                send(RpcCodec::encodeRpcMismatch(xid));
             m_open = false;
             break;
         }
@@ -62,7 +68,8 @@ bool RpcStream::receive(const uint8_t* data, size_t size, std::vector<uint8_t>& 
             reply = garbageRecord(call.xid);
             break;
         }
-        outgoing.insert(outgoing.end(), reply.begin(), reply.end());
+        if (!reply.empty() && !send(reply))
+            m_open = false;
     }
     return m_open;
 }

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 // One TCP connection's calls as the simulator reads them: bytes in as they arrive, each
@@ -13,12 +14,20 @@
 class RpcStream
 {
 public:
+    // Sends one reply record; false when the connection is gone.
+    using Send = std::function<bool(const std::vector<uint8_t>& record)>;
+
     RpcStream(RpcHandler& handler, uint64_t connectionId, size_t maxRecordSize);
 
-    // Takes bytes received and appends the replies to send; replies to calls that arrived
-    // together come out together. False once the connection must close (after sending
-    // whatever was appended): a call that can't be read, a broken record or a drop fault.
+    // Takes bytes received and sends each reply as soon as its call is handled, one send per
+    // reply as instrument firmware does, even for calls that arrived together. False once the
+    // connection must close (after sending what was due): a call that can't be read, a broken
+    // record, a drop fault or a failed send.
+    bool receive(const uint8_t* data, size_t size, const Send& send);
+    // The same, appending the replies to outgoing.
     bool receive(const uint8_t* data, size_t size, std::vector<uint8_t>& outgoing);
+    // Received bytes not handled yet: while a reply is being sent, the next call already here.
+    bool hasUnhandledInput() const { return !m_pending.empty(); }
 
 private:
     RpcHandler& m_handler;

@@ -30,7 +30,8 @@ const char* SimOptions::usage()
            "  --drop-mid-reply        close the connection halfway through a device_read reply\n"
            "  --garbage               answer device_read with a malformed RPC reply\n"
            "  --max-links N           refuse create_link beyond N open links (16)\n"
-           "  --max-recv-size N       maxRecvSize announced by create_link (4096)\n";
+           "  --max-recv-size N       maxRecvSize announced by create_link (4096)\n"
+           "  --tcp-nodelay           turn Nagle's algorithm off on TCP connections\n";
 }
 
 bool SimOptions::parse(int argc, char** argv, std::string& error)
@@ -51,6 +52,10 @@ bool SimOptions::parse(int argc, char** argv, std::string& error)
         }
         if (flag == "--garbage") {
             garbage = true;
+            continue;
+        }
+        if (flag == "--tcp-nodelay") {
+            tcpNoDelay = true;
             continue;
         }
         if (flag == "--help" || flag == "-h") {

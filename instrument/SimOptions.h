@@ -22,6 +22,7 @@ struct SimOptions
     bool garbage = false;
     uint32_t maxLinks = 16;
     uint32_t maxRecvSize = 4096;
+    bool tcpNoDelay = false;
 
     // false with a message for a bad command line.
     bool parse(int argc, char** argv, std::string& error);

@@ -17,7 +17,7 @@ Simulator::Simulator(const SimOptions& options)
     , m_instrument(identityOf(options), &m_log)
     , m_portmapper(options.silentAt == SimOptions::Stage::Portmapper)
     , m_core(options, m_instrument)
-    , m_server(*this)
+    , m_server(*this, options.tcpNoDelay)
 {
 }
 
