@@ -24,7 +24,6 @@ public:
             = std::chrono::duration_cast<std::chrono::milliseconds>(m_end - Clock::now());
         return left.count() > 0 ? left.count() : 0;
     }
-    Deadline earlier(const Deadline& other) const { return m_end < other.m_end ? *this : other; }
 
 private:
     explicit Deadline(Clock::time_point end)

@@ -72,35 +72,20 @@ RpcClient::Status RpcClient::receiveRecord(std::vector<uint8_t>& record, const D
 RpcClient::Status RpcClient::call(uint32_t procedure, const std::vector<uint8_t>& args,
     const Deadline& deadline, std::vector<uint8_t>& results)
 {
-    uint32_t xid = 0;
-    const Status status = send(procedure, args, deadline, xid);
-    return status == Status::Ok ? receive(xid, deadline, results) : status;
-}
-
-std::vector<uint8_t> RpcClient::prepare(
-    uint32_t procedure, const std::vector<uint8_t>& args, uint32_t& xid)
-{
+    if (!m_socket.isOpen())
+        return Status::ConnectionLost;
     RpcCodec::Call call;
-    call.xid = xid = m_nextXid++;
+    call.xid = m_nextXid++;
     call.program = m_program;
     call.version = m_version;
     call.procedure = procedure;
-    return RpcCodec::encodeCall(call, args);
-}
-
-RpcClient::Status RpcClient::sendRecords(
-    const std::vector<uint8_t>& records, const Deadline& deadline)
-{
-    if (!m_socket.isOpen())
-        return Status::ConnectionLost;
-    // Record marks and bodies in one send: split, they cost a delayed-ACK round trip per call.
-    return fromSocket(m_socket.sendAll(records.data(), records.size(), deadline));
-}
-
-RpcClient::Status RpcClient::send(
-    uint32_t procedure, const std::vector<uint8_t>& args, const Deadline& deadline, uint32_t& xid)
-{
-    return sendRecords(prepare(procedure, args, xid), deadline);
+    // Record mark and body in one send: a small call is then one segment, and nothing of it
+    // waits for an acknowledgement.
+    const std::vector<uint8_t> record = RpcCodec::encodeCall(call, args);
+    const TcpSocket::Result sent = m_socket.sendAll(record.data(), record.size(), deadline);
+    if (sent != TcpSocket::Result::Ok)
+        return fromSocket(sent);
+    return receive(call.xid, deadline, results);
 }
 
 RpcClient::Status RpcClient::receive(

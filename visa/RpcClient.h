@@ -8,8 +8,9 @@
 #include <string>
 #include <vector>
 
-// One ONC RPC client connection over TCP to one program and version. A call that times out
-// leaves its reply to arrive later; the next call recognises it by its xid and drops it.
+// One ONC RPC client connection over TCP to one program and version, one call at a time: the
+// next call goes out only once the reply to the last one is in or given up. A call that times
+// out leaves its reply to arrive later; the next call recognises it by its xid and drops it.
 class RpcClient
 {
 public:
@@ -28,21 +29,13 @@ public:
     // Sends the call and waits for its reply; results holds the procedure's encoded results.
     Status call(uint32_t procedure, const std::vector<uint8_t>& args, const Deadline& deadline,
         std::vector<uint8_t>& results);
-    // The halves of call(), so that calls can go out together, in one send, before their
-    // replies are in. Replies come back in call order on one connection; receive() drops any
-    // with another xid.
-    std::vector<uint8_t> prepare(
-        uint32_t procedure, const std::vector<uint8_t>& args, uint32_t& xid);
-    Status sendRecords(const std::vector<uint8_t>& records, const Deadline& deadline);
-    Status send(uint32_t procedure, const std::vector<uint8_t>& args, const Deadline& deadline,
-        uint32_t& xid);
-    Status receive(uint32_t xid, const Deadline& deadline, std::vector<uint8_t>& results);
     void close();
     bool isConnected() const { return m_socket.isOpen(); }
 
     static constexpr size_t kMaxRecordSize = size_t(4) * 1024 * 1024;
 
 private:
+    Status receive(uint32_t xid, const Deadline& deadline, std::vector<uint8_t>& results);
     Status receiveRecord(std::vector<uint8_t>& record, const Deadline& deadline);
 
     uint32_t m_program;

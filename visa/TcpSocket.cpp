@@ -66,7 +66,8 @@ TcpSocket::Result TcpSocket::connect(
         if (m_fd < 0)
             continue;
         const int one = 1;
-        // Each call is one small record and we wait for its answer: Nagle would hold it back.
+        // A call longer than a segment would otherwise keep its tail until the instrument
+        // acknowledges the rest, which it may delay.
         ::setsockopt(m_fd, IPPROTO_TCP, TCP_NODELAY, &one, sizeof one);
         if (::connect(m_fd, ai->ai_addr, ai->ai_addrlen) == 0) {
             result = Result::Ok;

@@ -106,8 +106,7 @@ VXIVISA_EXPORT ViStatus VI_FUNCC viPrintf(ViSession vi, ViString writeFmt, ...)
         if (formatted != VI_SUCCESS)
             return formatted;
         std::lock_guard<std::mutex> lock(session->mutex());
-        return session->write(reinterpret_cast<const uint8_t*>(message.data()), message.size(),
-            VisaSession::expectsReply(message));
+        return session->write(reinterpret_cast<const uint8_t*>(message.data()), message.size());
     } catch (const std::bad_alloc&) {
         return VI_ERROR_ALLOC;
     } catch (...) {

@@ -84,7 +84,6 @@ ViStatus VisaSession::open(const ResourceName& resource, bool lockDevice, uint32
 
 void VisaSession::destroyLink(const Deadline& deadline)
 {
-    m_pending.active = false;
     if (m_linkOpen && m_client.isConnected()) {
         int32_t error = 0;
         m_client.destroyLink(m_linkId, error, deadline);
@@ -95,12 +94,7 @@ void VisaSession::destroyLink(const Deadline& deadline)
 
 void VisaSession::close()
 {
-    // A query written and never read still reaches the instrument, as it would have unheld;
-    // its reply is not awaited (destroy_link's reply is told apart by xid).
-    const Deadline deadline = Deadline::inMs(std::min<int64_t>(m_options.timeoutMs, 1000));
-    if (m_linkOpen && m_pending.active && !m_pending.sent)
-        m_client.sendPrepared(m_pending.record, deadline);
-    destroyLink(deadline);
+    destroyLink(Deadline::inMs(std::min<int64_t>(m_options.timeoutMs, 1000)));
 }
 
 ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
@@ -123,55 +117,8 @@ ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
     return VisaStatus::fromTransport(status);
 }
 
-bool VisaSession::expectsReply(const std::string& message)
+ViStatus VisaSession::write(const uint8_t* data, size_t size, bool)
 {
-    const size_t last = message.find_last_not_of(" \t\r\n");
-    if (last == std::string::npos)
-        return false;
-    size_t unitStart = 0;
-    char quote = 0;
-    for (size_t i = 0; i < last; ++i) {
-        const char c = message[i];
-        if (quote)
-            quote = c == quote ? '\0' : quote;
-        else if (c == '"' || c == '\'')
-            quote = c;
-        else if (c == ';' || c == '\n')
-            unitStart = i + 1;
-    }
-    const size_t begin = message.find_first_not_of(" \t\r\n", unitStart);
-    const size_t end = message.find_first_of(" \t\r\n", begin);
-    const size_t headerEnd = end == std::string::npos || end > last ? last + 1 : end;
-    return message[headerEnd - 1] == '?';
-}
-
-ViStatus VisaSession::finishPendingWrite()
-{
-    if (!m_pending.active)
-        return VI_SUCCESS;
-    m_pending.active = false;
-    if (!m_pending.sent) {
-        m_pending.deadline = socketDeadline(Deadline::inMs(m_options.timeoutMs));
-        const Vxi11Client::Status status
-            = m_client.sendPrepared(m_pending.record, m_pending.deadline);
-        if (status != Vxi11Client::Status::Ok)
-            return transportFailure(status);
-    }
-    vxi11::WriteResp resp;
-    const Vxi11Client::Status status = m_client.endWrite(m_pending.xid, resp, m_pending.deadline);
-    if (status != Vxi11Client::Status::Ok)
-        return transportFailure(status);
-    if (resp.error != vxi11::NoError)
-        return VisaStatus::fromDeviceError(resp.error);
-    // The rest of a piece can't be sent again once a read has gone out behind it.
-    return resp.size == m_pending.length ? VI_SUCCESS : VI_ERROR_IO;
-}
-
-ViStatus VisaSession::write(const uint8_t* data, size_t size, bool replyExpected)
-{
-    const ViStatus pending = finishPendingWrite();
-    if (pending != VI_SUCCESS)
-        return pending;
     if (!m_linkOpen)
         return VI_ERROR_CONN_LOST;
     const Deadline deadline = Deadline::inMs(m_options.timeoutMs);
@@ -185,13 +132,6 @@ ViStatus VisaSession::write(const uint8_t* data, size_t size, bool replyExpected
         parms.ioTimeout = static_cast<uint32_t>(deadline.remainingMs());
         parms.flags = last ? uint32_t(vxi11::FlagEnd) : 0u;
         parms.data.assign(data + offset, data + offset + length);
-        if (last && replyExpected) {
-            m_pending.record = m_client.prepareWrite(parms, m_pending.xid);
-            m_pending.length = length;
-            m_pending.sent = false;
-            m_pending.active = true;
-            return VI_SUCCESS;
-        }
         vxi11::WriteResp resp;
         const Vxi11Client::Status status
             = m_client.deviceWrite(parms, resp, socketDeadline(deadline));
@@ -219,25 +159,9 @@ ViStatus VisaSession::read(std::string& message, size_t keep)
         parms.linkId = m_linkId;
         parms.requestSize = m_options.readChunk;
         parms.ioTimeout = static_cast<uint32_t>(deadline.remainingMs());
-        const bool withWrite = m_pending.active && !m_pending.sent;
-        uint32_t xid = 0;
-        Vxi11Client::Status status = m_client.beginRead(parms,
-            withWrite ? m_pending.record : std::vector<uint8_t>(), socketDeadline(deadline), xid);
-        if (status != Vxi11Client::Status::Ok) {
-            m_pending.active = false;
-            return transportFailure(status);
-        }
-        if (withWrite) {
-            m_pending.sent = true;
-            m_pending.deadline = socketDeadline(deadline);
-        }
-        // The query's write reply comes first; if it failed, this read's reply is dropped
-        // later by its xid.
-        const ViStatus written = finishPendingWrite();
-        if (written != VI_SUCCESS)
-            return written;
         vxi11::ReadResp resp;
-        status = m_client.endRead(xid, resp, socketDeadline(deadline));
+        const Vxi11Client::Status status
+            = m_client.deviceRead(parms, resp, socketDeadline(deadline));
         if (status != Vxi11Client::Status::Ok)
             return transportFailure(status);
         if (resp.error != vxi11::NoError)
@@ -259,11 +183,6 @@ ViStatus VisaSession::clear()
     if (!m_linkOpen)
         return VI_ERROR_CONN_LOST;
     const Deadline deadline = Deadline::inMs(m_options.timeoutMs);
-    // A clear is the way out of trouble: a held query still goes out first, but its reply is
-    // not awaited and its failure is not what the clear reports.
-    if (m_pending.active && !m_pending.sent)
-        m_client.sendPrepared(m_pending.record, socketDeadline(deadline));
-    m_pending.active = false;
     vxi11::GenericParms parms;
     parms.linkId = m_linkId;
     parms.ioTimeout = m_options.timeoutMs;

@@ -34,11 +34,11 @@ public:
     VisaSession& operator=(const VisaSession&) = delete;
 
     ViStatus open(const ResourceName& resource, bool lockDevice, uint32_t lockTimeoutMs);
-    // Sends one message, split at the instrument's maxRecvSize, END on the last piece. The last
-    // piece of a query waits for the read that follows and goes out with it in one send, so a
-    // query costs one exchange instead of two; any other call sends it first. Its failure is
-    // then reported by that next call.
-    ViStatus write(const uint8_t* data, size_t size, bool replyExpected = false);
+    // Sends one message, split at the instrument's maxRecvSize, END on the last piece, each
+    // piece's reply taken before anything else goes out. The third argument, once "a reply is
+    // expected", is ignored: a query is written like any other message (README.md, "One call
+    // at a time").
+    ViStatus write(const uint8_t* data, size_t size, bool = false);
     // Reads one whole message (to END or the instrument's term char), keeping at most keep
     // bytes of it; the rest is read and dropped so it can't pass for the next reply.
     ViStatus read(std::string& message, size_t keep);
@@ -46,23 +46,9 @@ public:
     void close();
 
     std::mutex& mutex() { return m_mutex; }
-    // Whether a message is a query: its last unit's header ends in '?'.
-    static bool expectsReply(const std::string& message);
     uint32_t maxRecvSize() const { return m_maxRecvSize; }
 
 private:
-    struct PendingWrite
-    {
-        bool active = false;
-        bool sent = false;
-        uint32_t xid = 0;
-        size_t length = 0;
-        std::vector<uint8_t> record;
-        Deadline deadline; // for its reply, from when it was sent
-    };
-
-    // Sends the held write if it isn't out yet, and takes its reply.
-    ViStatus finishPendingWrite();
     ViStatus transportFailure(Vxi11Client::Status status);
     void destroyLink(const Deadline& deadline);
     Deadline socketDeadline(const Deadline& ioDeadline) const;
@@ -73,5 +59,4 @@ private:
     uint32_t m_linkId = 0;
     uint32_t m_maxRecvSize = 0;
     bool m_linkOpen = false;
-    PendingWrite m_pending;
 };

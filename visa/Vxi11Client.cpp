@@ -53,54 +53,14 @@ Vxi11Client::Status Vxi11Client::connect(
 }
 
 template <typename Resp>
-Vxi11Client::Status Vxi11Client::finish(uint32_t xid, Resp& resp, const Deadline& deadline)
-{
-    std::vector<uint8_t> results;
-    const Status status = m_rpc.receive(xid, deadline, results);
-    if (status != Status::Ok)
-        return status;
-    return decodeResult(results, resp) ? Status::Ok : Status::ProtocolError;
-}
-
-template <typename Resp>
 Vxi11Client::Status Vxi11Client::invoke(
     uint32_t procedure, const std::vector<uint8_t>& args, Resp& resp, const Deadline& deadline)
 {
-    uint32_t xid = 0;
-    const Status status = m_rpc.send(procedure, args, deadline, xid);
-    return status == Status::Ok ? finish(xid, resp, deadline) : status;
-}
-
-std::vector<uint8_t> Vxi11Client::prepareWrite(const vxi11::WriteParms& parms, uint32_t& xid)
-{
-    return m_rpc.prepare(vxi11::DeviceWrite, vxi11::encode(parms), xid);
-}
-
-Vxi11Client::Status Vxi11Client::sendPrepared(
-    const std::vector<uint8_t>& records, const Deadline& deadline)
-{
-    return m_rpc.sendRecords(records, deadline);
-}
-
-Vxi11Client::Status Vxi11Client::endWrite(
-    uint32_t xid, vxi11::WriteResp& resp, const Deadline& deadline)
-{
-    return finish(xid, resp, deadline);
-}
-
-Vxi11Client::Status Vxi11Client::beginRead(const vxi11::ReadParms& parms,
-    const std::vector<uint8_t>& before, const Deadline& deadline, uint32_t& xid)
-{
-    std::vector<uint8_t> records = before;
-    const std::vector<uint8_t> read = m_rpc.prepare(vxi11::DeviceRead, vxi11::encode(parms), xid);
-    records.insert(records.end(), read.begin(), read.end());
-    return m_rpc.sendRecords(records, deadline);
-}
-
-Vxi11Client::Status Vxi11Client::endRead(
-    uint32_t xid, vxi11::ReadResp& resp, const Deadline& deadline)
-{
-    return finish(xid, resp, deadline);
+    std::vector<uint8_t> results;
+    const Status status = m_rpc.call(procedure, args, deadline, results);
+    if (status != Status::Ok)
+        return status;
+    return decodeResult(results, resp) ? Status::Ok : Status::ProtocolError;
 }
 
 Vxi11Client::Status Vxi11Client::createLink(

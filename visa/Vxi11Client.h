@@ -30,20 +30,10 @@ public:
         const vxi11::WriteParms& parms, vxi11::WriteResp& resp, const Deadline& deadline);
     Status deviceRead(
         const vxi11::ReadParms& parms, vxi11::ReadResp& resp, const Deadline& deadline);
-    // device_write and device_read in halves, so that a query's write and the read of its
-    // reply go out in one send: the write is prepared, and sent with the read or alone.
-    std::vector<uint8_t> prepareWrite(const vxi11::WriteParms& parms, uint32_t& xid);
-    Status sendPrepared(const std::vector<uint8_t>& records, const Deadline& deadline);
-    Status endWrite(uint32_t xid, vxi11::WriteResp& resp, const Deadline& deadline);
-    // Sends the read call behind the given prepared records, if any.
-    Status beginRead(const vxi11::ReadParms& parms, const std::vector<uint8_t>& before,
-        const Deadline& deadline, uint32_t& xid);
-    Status endRead(uint32_t xid, vxi11::ReadResp& resp, const Deadline& deadline);
     Status deviceClear(const vxi11::GenericParms& parms, int32_t& error, const Deadline& deadline);
     Status destroyLink(uint32_t linkId, int32_t& error, const Deadline& deadline);
 
 private:
-    template <typename Resp> Status finish(uint32_t xid, Resp& resp, const Deadline& deadline);
     template <typename Resp>
     Status invoke(
         uint32_t procedure, const std::vector<uint8_t>& args, Resp& resp, const Deadline& deadline);

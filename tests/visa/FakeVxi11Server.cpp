@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <thread>
+#include <utility>
 
 FakeVxi11Server::FakeVxi11Server()
     : m_server(*this)
@@ -25,52 +26,10 @@ bool FakeVxi11Server::start()
     return true;
 }
 
-void FakeVxi11Server::addRead(const ReadStep& step)
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    m_reads.push_back(step);
-}
-
-std::vector<FakeVxi11Server::WriteChunk> FakeVxi11Server::writes()
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_writes;
-}
-
-std::string FakeVxi11Server::lastMessage()
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_messages.empty() ? std::string() : m_messages.back();
-}
-
-std::vector<std::string> FakeVxi11Server::messages()
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_messages;
-}
-
-void FakeVxi11Server::failNextWrite(int32_t error)
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    m_nextWriteError = error;
-}
-
-int FakeVxi11Server::destroyedLinks()
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_destroyed;
-}
-
-int FakeVxi11Server::openConnections()
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_connections;
-}
-
 void FakeVxi11Server::connectionClosed(uint64_t)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    --m_connections;
+    --m_seen.openConnections;
 }
 
 RpcHandler::Action FakeVxi11Server::handle(
@@ -78,9 +37,10 @@ RpcHandler::Action FakeVxi11Server::handle(
 {
     Action action;
     std::unique_lock<std::mutex> lock(m_mutex);
-    if (std::find(m_seen.begin(), m_seen.end(), connectionId) == m_seen.end()) {
-        m_seen.push_back(connectionId);
-        ++m_connections;
+    if (std::find(m_connections.begin(), m_connections.end(), connectionId)
+        == m_connections.end()) {
+        m_connections.push_back(connectionId);
+        ++m_seen.openConnections;
     }
     if (call.program == vxi11::kPortmapperProgram) {
         action.results = vxi11::encodeUint(m_port);
@@ -89,49 +49,46 @@ RpcHandler::Action FakeVxi11Server::handle(
     switch (call.procedure) {
     case vxi11::CreateLink: {
         vxi11::CreateLinkResp resp;
-        resp.error = m_createLinkError;
+        resp.error = m_script.createLinkError;
         resp.linkId = 7;
-        resp.maxRecvSize = m_maxRecvSize;
+        resp.maxRecvSize = m_script.maxRecvSize;
         action.results = vxi11::encode(resp);
         break;
     }
     case vxi11::DeviceWrite: {
         vxi11::WriteParms parms;
         vxi11::decode(args, size, parms);
-        m_writes.push_back({ parms.data.size(), (parms.flags & vxi11::FlagEnd) != 0 });
+        m_seen.writes.push_back({ parms.data.size(), (parms.flags & vxi11::FlagEnd) != 0 });
         m_input.append(parms.data.begin(), parms.data.end());
         if (parms.flags & vxi11::FlagEnd) {
-            m_messages.push_back(m_input);
+            m_seen.lastMessage.swap(m_input);
             m_input.clear();
         }
         vxi11::WriteResp resp;
         resp.size = static_cast<uint32_t>(parms.data.size());
-        resp.error = m_nextWriteError;
-        m_nextWriteError = 0;
+        resp.error = std::exchange(m_script.nextWriteError, 0);
         action.results = vxi11::encode(resp);
         break;
     }
     case vxi11::DeviceRead: {
-        if (m_reads.empty()) {
+        if (m_script.reads.empty()) {
             action.kind = Action::Silent;
             break;
         }
-        const ReadStep step = m_reads.front();
-        m_reads.pop_front();
+        const ReadStep step = m_script.reads.front();
+        m_script.reads.pop_front();
         vxi11::ReadResp resp;
         resp.error = step.error;
         resp.reason = step.reason;
         resp.data.assign(step.data.begin(), step.data.end());
         action.kind = step.kind;
         action.results = vxi11::encode(resp);
-        if (step.delayMs > 0) {
-            lock.unlock();
-            std::this_thread::sleep_for(std::chrono::milliseconds(step.delayMs));
-        }
+        lock.unlock();
+        std::this_thread::sleep_for(std::chrono::milliseconds(step.delayMs));
         break;
     }
     case vxi11::DestroyLink:
-        ++m_destroyed;
+        ++m_seen.destroyedLinks;
         action.results = vxi11::encodeError(0);
         break;
     default:

@@ -1,5 +1,6 @@
 // The VISA entry points against a scripted VXI-11 server on loopback: the read loop, the error
-// mapping, and what a slow or broken instrument must never do to the next call.
+// mapping, what a slow or broken instrument must never do to the next call, and no call sent
+// before the previous reply is in (with Nagle on at the instrument, that cost ~40 ms a query).
 #include "../NetNamespace.h"
 #include "FakeVxi11Server.h"
 #include "visa.h"
@@ -12,6 +13,7 @@
 namespace {
 constexpr int kTimeoutMs = 300;
 using Step = FakeVxi11Server::ReadStep;
+using Script = FakeVxi11Server::Script;
 using Kind = RpcHandler::Action::Kind;
 constexpr uint32_t kReqCnt = 1;
 constexpr uint32_t kChr = 2;
@@ -28,19 +30,12 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void readsWholeMessage_data();
-    void readsWholeMessage();
-    void readFailures_data();
-    void readFailures();
+    void queries_data();
+    void queries();
     void writeSplitsAtMaxRecvSize();
-    void queryWriteFailureIsReportedByTheRead();
-    void heldQueryStillReachesTheInstrument_data();
-    void heldQueryStillReachesTheInstrument();
-    void longReplyFillsBufferAndIsDrained();
-    void linkIsDestroyedOnEveryClose();
+    void closeDestroysLinkAndHandle();
     void openFailures_data();
     void openFailures();
-    void staleHandlesAreRefused();
 
 private:
     ViStatus open();
@@ -90,84 +85,69 @@ ViStatus tst_VisaSession::query(const char* command, QByteArray& reply)
     return status;
 }
 
-void tst_VisaSession::readsWholeMessage_data()
+// One "FREQ?" with the given write error and read steps, then "*IDN?" answered "fresh\n".
+void tst_VisaSession::queries_data()
 {
-    QTest::addColumn<std::vector<Step>>("steps");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::newRow("END in the first chunk")
-        << std::vector<Step> { { "+1.0E+03\n", kEnd } } << QByteArray("+1.0E+03\n");
-    QTest::newRow("chunks until END") << std::vector<Step> { { "ab", kReqCnt }, { "cd", kReqCnt },
-        { "e\n", kEnd } } << QByteArray("abcde\n");
-    QTest::newRow("empty chunk in between") << std::vector<Step> { { "ab", kReqCnt }, { "", 0 },
-        { "c\n", kEnd } } << QByteArray("abc\n");
-    QTest::newRow("exact multiple of the chunk, END on an empty chunk")
-        << std::vector<Step> { { "abcd", kReqCnt }, { "", kEnd } } << QByteArray("abcd");
-    QTest::newRow("term char ends the message")
-        << std::vector<Step> { { "ok\n", kChr } } << QByteArray("ok\n");
-}
-
-void tst_VisaSession::readsWholeMessage()
-{
-    QFETCH(std::vector<Step>, steps);
-    QFETCH(QByteArray, expected);
-    QCOMPARE(open(), VI_SUCCESS);
-    for (const Step& step : steps)
-        m_server->addRead(step);
-    QByteArray reply;
-    QCOMPARE(query("FREQ?\n", reply), VI_SUCCESS);
-    QCOMPARE(reply, expected);
-    QCOMPARE(m_server->lastMessage(), std::string("FREQ?\n"));
-}
-
-void tst_VisaSession::readFailures_data()
-{
+    QTest::addColumn<int>("writeError");
     QTest::addColumn<std::vector<Step>>("steps");
     QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("reply");
     QTest::addColumn<bool>("recovers");
-    QTest::newRow("silent instrument times out")
-        << std::vector<Step> { { "", 0, 0, 0, Kind::Silent } } << int(VI_ERROR_TMO) << true;
-    QTest::newRow("time-out with partial data is not kept for the next read")
-        << std::vector<Step> { { "stale", kReqCnt }, { "", 0, 0, 0, Kind::Silent } }
-        << int(VI_ERROR_TMO) << true;
-    QTest::newRow("late reply is not the next call's answer")
-        << std::vector<Step> { { "late\n", kEnd, 0, 700 } } << int(VI_ERROR_TMO) << true;
-    QTest::newRow("device I/O timeout")
-        << std::vector<Step> { { "", 0, 15 } } << int(VI_ERROR_TMO) << true;
-    QTest::newRow("device I/O error")
-        << std::vector<Step> { { "", 0, 17 } } << int(VI_ERROR_IO) << true;
-    QTest::newRow("locked by another link")
-        << std::vector<Step> { { "", 0, 11 } } << int(VI_ERROR_RSRC_LOCKED) << true;
-    QTest::newRow("invalid link") << std::vector<Step> { { "", 0, 4 } } << int(VI_ERROR_CONN_LOST)
-                                  << true;
-    QTest::newRow("unknown error code still an error")
-        << std::vector<Step> { { "", 0, 1234 } } << int(VI_ERROR_IO) << true;
-    QTest::newRow("connection dropped mid-reply")
-        << std::vector<Step> { { "half\n", kEnd, 0, 0, Kind::DropMidReply } }
-        << int(VI_ERROR_CONN_LOST) << false;
-    QTest::newRow("garbage reply")
-        << std::vector<Step> { { "x\n", kEnd, 0, 0, Kind::Garbage } } << int(VI_ERROR_IO) << false;
+    const auto row = [](const char* name, int writeError, std::vector<Step> steps, ViStatus status,
+                         QByteArray reply = {}, bool recovers = true) {
+        QTest::newRow(name) << writeError << steps << int(status) << reply << recovers;
+    };
+    row("END in the first chunk", 0, { { "+1.0E+03\n", kEnd } }, VI_SUCCESS, "+1.0E+03\n");
+    row("chunks until END", 0, { { "ab", kReqCnt }, { "cd", kReqCnt }, { "e\n", kEnd } },
+        VI_SUCCESS, "abcde\n");
+    row("empty chunk in between", 0, { { "ab", kReqCnt }, { "", 0 }, { "c\n", kEnd } }, VI_SUCCESS,
+        "abc\n");
+    row("exact multiple of the chunk, END on an empty chunk", 0,
+        { { "abcd", kReqCnt }, { "", kEnd } }, VI_SUCCESS, "abcd");
+    row("term char ends the message", 0, { { "ok\n", kChr } }, VI_SUCCESS, "ok\n");
+    row("reply longer than the buffer: cut, the rest drained", 0,
+        { { std::string(1000, 'y'), kReqCnt }, { std::string(500, 'z') + "\n", kEnd } }, VI_SUCCESS,
+        QByteArray(1000, 'y') + QByteArray(24, 'z'));
+    row("silent instrument times out", 0, { { "", 0, 0, 0, Kind::Silent } }, VI_ERROR_TMO);
+    row("time-out with partial data is not kept for the next read", 0,
+        { { "stale", kReqCnt }, { "", 0, 0, 0, Kind::Silent } }, VI_ERROR_TMO);
+    row("late reply is not the next call's answer", 0, { { "late\n", kEnd, 0, 700 } },
+        VI_ERROR_TMO);
+    row("write refused: the write reports it", 17, {}, VI_ERROR_IO);
+    row("device I/O timeout", 0, { { "", 0, 15 } }, VI_ERROR_TMO);
+    row("locked by another link", 0, { { "", 0, 11 } }, VI_ERROR_RSRC_LOCKED);
+    row("invalid link", 0, { { "", 0, 4 } }, VI_ERROR_CONN_LOST);
+    row("unknown error code still an error", 0, { { "", 0, 1234 } }, VI_ERROR_IO);
+    row("connection dropped mid-reply", 0, { { "half\n", kEnd, 0, 0, Kind::DropMidReply } },
+        VI_ERROR_CONN_LOST, {}, false);
+    row("garbage reply", 0, { { "x\n", kEnd, 0, 0, Kind::Garbage } }, VI_ERROR_IO, {}, false);
 }
 
-void tst_VisaSession::readFailures()
+void tst_VisaSession::queries()
 {
+    QFETCH(int, writeError);
     QFETCH(std::vector<Step>, steps);
     QFETCH(int, status);
+    QFETCH(QByteArray, reply);
     QFETCH(bool, recovers);
     QCOMPARE(open(), VI_SUCCESS);
-    for (const Step& step : steps)
-        m_server->addRead(step);
-    QByteArray reply;
-    QElapsedTimer elapsed;
-    elapsed.start();
-    QCOMPARE(int(query("FREQ?\n", reply)), status);
-    // Far above the time-out: only a hang fails here.
-    QVERIFY2(elapsed.elapsed() < 10 * kTimeoutMs, qPrintable(QString::number(elapsed.elapsed())));
+    m_server->script([&](Script& s) {
+        s.nextWriteError = writeError;
+        s.reads.assign(steps.begin(), steps.end());
+    });
+    QByteArray got;
+    QCOMPARE(int(query("FREQ?\n", got)), status);
+    if (status == VI_SUCCESS) {
+        QCOMPARE(got, reply);
+        QCOMPARE(m_server->seen().lastMessage, std::string("FREQ?\n"));
+        QCOMPARE(m_server->overlappingCalls(), 0u);
+    }
 
     m_server->addReply("fresh\n");
-    const ViStatus next = query("*IDN?\n", reply);
+    const ViStatus next = query("*IDN?\n", got);
     if (recovers) {
         QCOMPARE(next, VI_SUCCESS);
-        QCOMPARE(reply, QByteArray("fresh\n"));
+        QCOMPARE(got, QByteArray("fresh\n"));
     } else {
         QCOMPARE(next, VI_ERROR_CONN_LOST);
     }
@@ -176,93 +156,39 @@ void tst_VisaSession::readFailures()
 
 void tst_VisaSession::writeSplitsAtMaxRecvSize()
 {
-    m_server->setMaxRecvSize(16);
+    m_server->script([](Script& s) { s.maxRecvSize = 16; });
     QCOMPARE(open(), VI_SUCCESS);
     const QByteArray text(40, 'w');
     QCOMPARE(viPrintf(m_vi, const_cast<ViString>("%s"), text.constData()), VI_SUCCESS);
-    const auto chunks = m_server->writes();
+    const auto chunks = m_server->seen().writes;
     QCOMPARE(chunks.size(), size_t(3));
     QCOMPARE(chunks[0].size, size_t(16));
     QCOMPARE(chunks[1].size, size_t(16));
     QCOMPARE(chunks[2].size, size_t(8));
     QVERIFY(!chunks[0].end && !chunks[1].end && chunks[2].end);
-    QCOMPARE(m_server->lastMessage(), text.toStdString());
+    QCOMPARE(m_server->seen().lastMessage, text.toStdString());
+    QCOMPARE(m_server->overlappingCalls(), 0u);
 }
 
-void tst_VisaSession::queryWriteFailureIsReportedByTheRead()
+void tst_VisaSession::closeDestroysLinkAndHandle()
 {
     QCOMPARE(open(), VI_SUCCESS);
-    m_server->failNextWrite(17);
-    m_server->addReply("never read\n");
-    // The query's write goes out with the read, so the read reports the write's failure.
-    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("FREQ?\n")), VI_SUCCESS);
-    char buffer[1024];
-    QCOMPARE(viScanf(m_vi, const_cast<ViString>("%1024t"), buffer), VI_ERROR_IO);
-    // A command's write is not held: its failure is its own.
-    m_server->failNextWrite(17);
-    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("OUTP ON\n")), VI_ERROR_IO);
-    // The orphaned read reply was not taken for this one.
-    m_server->addReply("fresh\n");
-    QByteArray reply;
-    QCOMPARE(query("*IDN?\n", reply), VI_SUCCESS);
-    QCOMPARE(reply, QByteArray("fresh\n"));
-}
-
-void tst_VisaSession::heldQueryStillReachesTheInstrument_data()
-{
-    QTest::addColumn<QString>("next");
-    QTest::newRow("another write") << "write";
-    QTest::newRow("a clear") << "clear";
-    QTest::newRow("a close") << "close";
-}
-
-void tst_VisaSession::heldQueryStillReachesTheInstrument()
-{
-    QFETCH(QString, next);
-    QCOMPARE(open(), VI_SUCCESS);
-    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*IDN?\n")), VI_SUCCESS);
-    if (next == "write")
-        QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*RST\n")), VI_SUCCESS);
-    else if (next == "clear")
-        QCOMPARE(viClear(m_vi), VI_SUCCESS);
-    else
-        QCOMPARE(viClose(m_vi), VI_SUCCESS);
-    const std::vector<std::string> messages = m_server->messages();
-    QVERIFY(!messages.empty());
-    QCOMPARE(messages.front(), std::string("*IDN?\n"));
-    if (next == "write")
-        QCOMPARE(messages.back(), std::string("*RST\n"));
-}
-
-void tst_VisaSession::longReplyFillsBufferAndIsDrained()
-{
-    QCOMPARE(open(), VI_SUCCESS);
-    m_server->addRead({ std::string(1000, 'y'), kReqCnt });
-    m_server->addRead({ std::string(500, 'z') + "\n", kEnd });
-    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*IDN?\n")), VI_SUCCESS);
-    std::vector<char> memory(1024 + 16, '#');
-    QVERIFY(viScanf(m_vi, const_cast<ViString>("%1024t"), memory.data()) >= VI_SUCCESS);
-    QCOMPARE(memory[999], 'y');
-    QCOMPARE(memory[1023], 'z');
-    for (size_t i = 1024; i < memory.size(); ++i)
-        QCOMPARE(memory[i], '#');
-    // The tail of the long reply must not come back as the answer to the next query.
-    m_server->addReply("next\n");
-    QByteArray reply;
-    QCOMPARE(query("FREQ?\n", reply), VI_SUCCESS);
-    QCOMPARE(reply, QByteArray("next\n"));
-}
-
-void tst_VisaSession::linkIsDestroyedOnEveryClose()
-{
-    QCOMPARE(open(), VI_SUCCESS);
+    ViSession other = 0;
+    // An instrument session is not a resource manager.
+    QCOMPARE(viOpen(m_vi, const_cast<ViRsrc>("TCPIP::127.0.0.1::INSTR"), VI_NO_LOCK, 0, &other),
+        VI_ERROR_INV_OBJECT);
     QCOMPARE(viClose(m_vi), VI_SUCCESS);
-    QCOMPARE(m_server->destroyedLinks(), 1);
+    QCOMPARE(m_server->seen().destroyedLinks, 1);
+    char buffer[1024];
+    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*RST\n")), VI_ERROR_INV_OBJECT);
+    QCOMPARE(viScanf(m_vi, const_cast<ViString>("%1024t"), buffer), VI_ERROR_INV_OBJECT);
+    QCOMPARE(viClear(m_vi), VI_ERROR_INV_OBJECT);
+    QCOMPARE(viClose(m_vi), VI_ERROR_INV_OBJECT);
     // Closing the resource manager closes what it opened.
     QCOMPARE(open(), VI_SUCCESS);
     QCOMPARE(viClose(m_rm), VI_SUCCESS);
-    QCOMPARE(m_server->destroyedLinks(), 2);
-    QTRY_COMPARE(m_server->openConnections(), 0);
+    QCOMPARE(m_server->seen().destroyedLinks, 2);
+    QTRY_COMPARE(m_server->seen().openConnections, 0);
 }
 
 void tst_VisaSession::openFailures_data()
@@ -284,28 +210,12 @@ void tst_VisaSession::openFailures()
     QFETCH(QByteArray, resource);
     QFETCH(int, linkError);
     QFETCH(int, status);
-    m_server->setCreateLinkError(linkError);
+    m_server->script([&](Script& s) { s.createLinkError = linkError; });
     m_vi = 1234;
     QCOMPARE(int(viOpen(m_rm, resource.data(), VI_NO_LOCK, 0, &m_vi)), status);
     QCOMPARE(m_vi, ViSession(VI_NULL));
     // A failed open leaves no connection behind at the instrument.
-    QTRY_COMPARE(m_server->openConnections(), 0);
-}
-
-void tst_VisaSession::staleHandlesAreRefused()
-{
-    QCOMPARE(open(), VI_SUCCESS);
-    QCOMPARE(viClose(m_vi), VI_SUCCESS);
-    char buffer[1024];
-    QCOMPARE(viPrintf(m_vi, const_cast<ViString>("*RST\n")), VI_ERROR_INV_OBJECT);
-    QCOMPARE(viScanf(m_vi, const_cast<ViString>("%1024t"), buffer), VI_ERROR_INV_OBJECT);
-    QCOMPARE(viClear(m_vi), VI_ERROR_INV_OBJECT);
-    QCOMPARE(viClose(m_vi), VI_ERROR_INV_OBJECT);
-    ViSession other = 0;
-    // An instrument session is not a resource manager.
-    QCOMPARE(open(), VI_SUCCESS);
-    QCOMPARE(viOpen(m_vi, const_cast<ViRsrc>("TCPIP::127.0.0.1::INSTR"), VI_NO_LOCK, 0, &other),
-        VI_ERROR_INV_OBJECT);
+    QTRY_COMPARE(m_server->seen().openConnections, 0);
 }
 
 NETNS_MAIN(tst_VisaSession)
