@@ -1,10 +1,10 @@
 // Other VXI-11 clients against the simulator, so that a fault shared by our client and our
 // server (both use one message layer) can't hide: Debian's pyvisa-py and lxi-tools ask for
-// "*IDN?" and "FREQ?" inside the private network namespace, through the portmapper on port 111.
+// "*IDN?" and "FREQ?" inside the private network namespace, through the portmapper on port 111,
+// with Nagle's algorithm on at the simulator (as in most firmware) and off.
 #include "../NetNamespace.h"
 #include "SimProcess.h"
 
-#include <QFileInfo>
 #include <QStandardPaths>
 #include <QtTest>
 
@@ -34,6 +34,14 @@ Run run(const QString& program, const QStringList& arguments)
     result.output = process.readAll();
     return result;
 }
+
+const QString kPyvisaScript
+    = QStringLiteral("import pyvisa\n"
+                     "rm = pyvisa.ResourceManager('@py')\n"
+                     "i = rm.open_resource('TCPIP0::127.0.0.1::inst0::INSTR', timeout=5000)\n"
+                     "print(i.query('*IDN?').strip())\n"
+                     "print(i.query('FREQ?').strip())\n"
+                     "i.close()\n");
 } // namespace
 
 class tst_Interop : public QObject
@@ -42,60 +50,54 @@ class tst_Interop : public QObject
 
 private slots:
     void initTestCase();
-    void pyvisaPy();
-    void lxiTools_data();
-    void lxiTools();
-
-private:
-    SimProcess m_sim;
+    void identityAndFrequency_data();
+    void identityAndFrequency();
 };
 
 void tst_Interop::initTestCase()
 {
     REQUIRE_PRIVATE_NETWORK();
-    QString error;
-    QVERIFY2(m_sim.start({}, &error), qPrintable(error));
-    QCOMPARE(m_sim.portmapperPort(), quint16(111)); // the port both clients insist on
 }
 
-void tst_Interop::pyvisaPy()
+void tst_Interop::identityAndFrequency_data()
 {
-    if (!QFileInfo::exists(kPython)
-        || run(kPython, { "-c", "import pyvisa, pyvisa_py" }).exitCode != 0)
-        QSKIP("Debian's python3-pyvisa-py is not installed (tools/apt-packages.txt lists it)");
-    const QString script = QStringLiteral(
-        "import pyvisa\n"
-        "rm = pyvisa.ResourceManager('@py')\n"
-        "inst = rm.open_resource('TCPIP0::127.0.0.1::inst0::INSTR', timeout=5000)\n"
-        "print(inst.query('*IDN?').strip())\n"
-        "print(inst.query('FREQ?').strip())\n"
-        "inst.close()\n");
-    const Run result = run(kPython, { "-c", script });
-    QVERIFY2(result.exitCode == 0, result.output.constData());
-    const QList<QByteArray> lines = result.output.trimmed().split('\n');
-    QCOMPARE(lines.size(), 2);
-    QVERIFY2(lines[0].startsWith(kIdentity), lines[0].constData());
-    QCOMPARE(lines[1], kFrequency);
+    QTest::addColumn<QString>("client");
+    QTest::addColumn<QStringList>("arguments");
+    for (const QString client : { "pyvisa-py", "lxi-tools" }) {
+        QTest::newRow(qPrintable(client + ", Nagle on")) << client << QStringList();
+        QTest::newRow(qPrintable(client + ", Nagle off"))
+            << client << QStringList { "--tcp-nodelay" };
+    }
 }
 
-void tst_Interop::lxiTools_data()
+void tst_Interop::identityAndFrequency()
 {
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QByteArray>("replyStart");
-    QTest::newRow("identity") << "*IDN?" << kIdentity;
-    QTest::newRow("frequency") << "FREQ?" << kFrequency;
-}
-
-void tst_Interop::lxiTools()
-{
-    QFETCH(QString, command);
-    QFETCH(QByteArray, replyStart);
+    QFETCH(QString, client);
+    QFETCH(QStringList, arguments);
+    const bool pyvisa = client == QLatin1String("pyvisa-py");
     const QString lxi = QStandardPaths::findExecutable(QStringLiteral("lxi"));
-    if (lxi.isEmpty())
+    if (pyvisa && run(kPython, { "-c", "import pyvisa, pyvisa_py" }).exitCode != 0)
+        QSKIP("Debian's python3-pyvisa-py is not installed (tools/apt-packages.txt lists it)");
+    if (!pyvisa && lxi.isEmpty())
         QSKIP("Debian's lxi-tools is not installed (tools/apt-packages.txt lists it)");
-    const Run result = run(lxi, { "scpi", "-a", "127.0.0.1", command });
-    QVERIFY2(result.exitCode == 0, result.output.constData());
-    QVERIFY2(result.output.trimmed().startsWith(replyStart), result.output.constData());
+    SimProcess sim;
+    QString error;
+    QVERIFY2(sim.start(arguments, &error), qPrintable(error));
+    QCOMPARE(sim.portmapperPort(), quint16(111)); // the port both clients insist on
+
+    QByteArray replies;
+    const QList<QStringList> runs = pyvisa
+        ? QList<QStringList> { { "-c", kPyvisaScript } }
+        : QList<QStringList> { { "scpi", "-a", "127.0.0.1", "*IDN?" },
+              { "scpi", "-a", "127.0.0.1", "FREQ?" } };
+    for (const QStringList& args : runs) {
+        const Run result = run(pyvisa ? kPython : lxi, args);
+        QVERIFY2(result.exitCode == 0, result.output.constData());
+        replies += result.output;
+    }
+    const QList<QByteArray> lines = replies.trimmed().split('\n');
+    QVERIFY2(lines.size() == 2 && lines[0].startsWith(kIdentity), replies.constData());
+    QCOMPARE(lines[1].trimmed(), kFrequency);
 }
 
 NETNS_MAIN(tst_Interop)
