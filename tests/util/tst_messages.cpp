@@ -47,11 +47,8 @@ class tst_Messages : public QObject
 private slots:
     void init();
     void cleanup();
-    void labelsAndStyle_data();
-    void labelsAndStyle();
-    void answers_data();
-    void answers();
-    void buttonNames();
+    void yesNoCancel_data();
+    void yesNoCancel();
 
 private:
     QTemporaryDir* m_dir = nullptr;
@@ -73,30 +70,45 @@ void tst_Messages::cleanup()
     delete m_dir;
 }
 
-void tst_Messages::labelsAndStyle_data()
+void tst_Messages::yesNoCancel_data()
 {
     QTest::addColumn<QString>("theme");
     QTest::addColumn<ButtonTexts>("texts");
+    QTest::addColumn<int>("press"); // 0 closes the window
+    QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("yes");
     QTest::addColumn<QString>("cancel");
     QTest::addColumn<QString>("style");
 
     QTest::newRow("no texts: host's Cancel, native style")
-        << "light" << ButtonTexts() << "&Yes" << "Cancel" << "://ui-native-light.css";
+        << "light" << ButtonTexts() << int(QMessageBox::No) << "No"
+        << "&Yes"
+        << "Cancel"
+        << "://ui-native-light.css";
     QTest::newRow("Yes replaced: message box style, theme name case-blind")
-        << "DARK" << ButtonTexts{{QMessageBox::Yes, "Save all"}} << "Save all" << "Cancel"
+        << "DARK" << ButtonTexts { { QMessageBox::Yes, "Save all" } } << int(QMessageBox::Yes)
+        << "Yes"
+        << "Save all"
+        << "Cancel"
         << "://ui-messageBox-dark.css";
-    QTest::newRow("Cancel entry wins")
-        << "light" << ButtonTexts{{QMessageBox::Cancel, "Back"}} << "&Yes" << "Back"
-        << "://ui-messageBox-light.css";
-    QTest::newRow("unknown theme is light")
-        << "blue" << ButtonTexts() << "&Yes" << "Cancel" << "://ui-native-light.css";
+    QTest::newRow("Cancel entry wins") << "light" << ButtonTexts { { QMessageBox::Cancel, "Back" } }
+                                       << int(QMessageBox::Cancel) << "Cancel"
+                                       << "&Yes"
+                                       << "Back"
+                                       << "://ui-messageBox-light.css";
+    QTest::newRow("unknown theme is light, window closed counts as Cancel")
+        << "blue" << ButtonTexts() << 0 << "Cancel"
+        << "&Yes"
+        << "Cancel"
+        << "://ui-native-light.css";
 }
 
-void tst_Messages::labelsAndStyle()
+void tst_Messages::yesNoCancel()
 {
     QFETCH(QString, theme);
     QFETCH(ButtonTexts, texts);
+    QFETCH(int, press);
+    QFETCH(QString, answer);
     QFETCH(QString, yes);
     QFETCH(QString, cancel);
     QFETCH(QString, style);
@@ -110,11 +122,15 @@ void tst_Messages::labelsAndStyle()
         seenCancel = box->button(QMessageBox::Cancel)->text();
         seenStyle = box->styleSheet();
         depthWhileShown = m_host->modalDepth();
-        box->button(QMessageBox::No)->click();
+        if (press)
+            box->button(QMessageBox::StandardButton(press))->click();
+        else
+            box->close();
     });
-    const int answer = UTL_Messages::confirmYesNoCancel(QStringLiteral("Go on?"), m_host, nullptr,
-                                                        texts);
-    QCOMPARE(answer, int(QMessageBox::No));
+    m_recorder->clear();
+    const int result
+        = UTL_Messages::confirmYesNoCancel(QStringLiteral("Erase?"), m_host, nullptr, texts);
+    QCOMPARE(result, press ? press : int(QMessageBox::Cancel));
     QCOMPARE(seenYes, yes);
     QCOMPARE(seenNo, QStringLiteral("&No"));
     QCOMPARE(seenCancel, cancel);
@@ -122,47 +138,12 @@ void tst_Messages::labelsAndStyle()
     QCOMPARE(seenStyle, resourceText(style));
     QCOMPARE(depthWhileShown, 1);
     QCOMPARE(m_host->modalDepth(), 0);
-}
 
-void tst_Messages::answers_data()
-{
-    QTest::addColumn<int>("press");
-    QTest::addColumn<int>("expected");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("yes") << int(QMessageBox::Yes) << int(QMessageBox::Yes) << "Yes";
-    QTest::newRow("cancel") << int(QMessageBox::Cancel) << int(QMessageBox::Cancel) << "Cancel";
-    QTest::newRow("window closed counts as cancel") << 0 << int(QMessageBox::Cancel) << "Cancel";
-}
-
-void tst_Messages::answers()
-{
-    QFETCH(int, press);
-    QFETCH(int, expected);
-    QFETCH(QString, name);
-    whenBoxShows([press](QMessageBox* box) {
-        if (press)
-            box->button(QMessageBox::StandardButton(press))->click();
-        else
-            box->close();
-    });
-    m_recorder->clear();
-    const int answer = UTL_Messages::confirmYesNoCancel(QStringLiteral("Erase?"), m_host, nullptr,
-                                                        {});
-    QCOMPARE(answer, expected);
     QStringList logged;
     for (const QJsonObject& event : m_recorder->events(QStringLiteral("log")))
         logged.append(event.value(QStringLiteral("text")).toString());
-    QVERIFY2(logged.contains(QStringLiteral("\"[Erase?][result:") + name + QStringLiteral("]\"")),
-             qPrintable(logged.join(QLatin1Char('\n'))));
-    QVERIFY(logged.contains(
-        QStringLiteral("[ENTER] \"UTL_Messages::confirmYesNoCancel\" \"[text:Erase?]\"")));
-}
-
-void tst_Messages::buttonNames()
-{
-    QCOMPARE(UTL_Messages::buttonName(QMessageBox::Ok), QStringLiteral("Ok"));
-    QCOMPARE(UTL_Messages::buttonName(QMessageBox::Save), QStringLiteral("Save"));
-    QCOMPARE(UTL_Messages::buttonName(QMessageBox::Abort), QString());
+    QVERIFY2(logged.contains(QStringLiteral("\"[Erase?][result:") + answer + QStringLiteral("]\"")),
+        qPrintable(logged.join(QLatin1Char('\n'))));
 }
 
 QTEST_MAIN(tst_Messages)

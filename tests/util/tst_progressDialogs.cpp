@@ -14,6 +14,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <stdexcept>
 
 namespace {
@@ -25,7 +26,10 @@ bool runGuarded(GUI_MarqueeProgressDialog& dialog, VIGenThread* thread)
     bool rescued = false;
     QTimer guard;
     guard.setSingleShot(true);
-    QObject::connect(&guard, &QTimer::timeout, [&] { rescued = true; dialog.hide(); });
+    QObject::connect(&guard, &QTimer::timeout, [&] {
+        rescued = true;
+        dialog.hide();
+    });
     guard.start(10000);
     thread->setProgressDialog(&dialog);
     dialog.run(thread);
@@ -58,90 +62,81 @@ class tst_ProgressDialogs : public QObject
 private slots:
     void escape_data();
     void escape();
-    void marqueeCancelButton_data();
-    void marqueeCancelButton();
-    void workerEndingBeforeExecEndsIt();
-    void guiThreadRunsWhileWorkerWaits();
+    void worker_data();
+    void worker();
     void backgroundTask_data();
     void backgroundTask();
 };
 
 void tst_ProgressDialogs::escape_data()
 {
+    QTest::addColumn<bool>("marquee");
     QTest::addColumn<bool>("ignoreEscape");
+    QTest::addColumn<QString>("cancelText");
+    QTest::addColumn<int>("buttons");
     QTest::addColumn<bool>("visibleAfter");
-    QTest::newRow("ignored") << true << true;
-    QTest::newRow("closes like QDialog") << false << false;
+    QTest::newRow("bar that ignores Escape stays") << false << true << "Cancel" << 1 << true;
+    QTest::newRow("plain bar closes like QDialog") << false << false << "Cancel" << 1 << false;
+    QTest::newRow("running bar without cancel text: no button, stays")
+        << true << true << "" << 0 << true;
+    QTest::newRow("running bar with cancel text: one button, still stays")
+        << true << true << "Stop" << 1 << true;
 }
 
 void tst_ProgressDialogs::escape()
 {
+    QFETCH(bool, marquee);
     QFETCH(bool, ignoreEscape);
-    QFETCH(bool, visibleAfter);
-    GUI_ProgressDialog dialog(QStringLiteral("l"), QStringLiteral("Cancel"), 0, 0, nullptr,
-                              Qt::WindowFlags(), ignoreEscape);
-    dialog.show();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    QCOMPARE(dialog.isVisible(), visibleAfter);
-}
-
-void tst_ProgressDialogs::marqueeCancelButton_data()
-{
-    QTest::addColumn<QString>("cancelText");
-    QTest::addColumn<bool>("modal");
-    QTest::addColumn<int>("buttons");
-    QTest::newRow("empty text: no button, Escape does nothing") << "" << false << 0;
-    QTest::newRow("with text: one button, application modal") << "Stop" << true << 1;
-}
-
-void tst_ProgressDialogs::marqueeCancelButton()
-{
     QFETCH(QString, cancelText);
-    QFETCH(bool, modal);
     QFETCH(int, buttons);
-    GUI_MarqueeProgressDialog dialog(nullptr, QStringLiteral("Searching..."), cancelText, modal);
-    QCOMPARE(dialog.findChildren<QAbstractButton*>().size(), buttons);
-    QCOMPARE(int(dialog.windowFlags() & (Qt::Tool | Qt::FramelessWindowHint)), 2059);
-    QCOMPARE(dialog.windowModality(), modal ? Qt::ApplicationModal : Qt::NonModal);
-    QCOMPARE(dialog.maximum(), 0);
-    dialog.show();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    QVERIFY(dialog.isVisible());
+    QFETCH(bool, visibleAfter);
+    std::unique_ptr<GUI_ProgressDialog> dialog;
+    if (marquee)
+        dialog.reset(new GUI_MarqueeProgressDialog(
+            nullptr, QStringLiteral("Searching..."), cancelText, !cancelText.isEmpty()));
+    else
+        dialog.reset(new GUI_ProgressDialog(
+            QStringLiteral("l"), cancelText, 0, 0, nullptr, Qt::WindowFlags(), ignoreEscape));
+    QCOMPARE(dialog->findChildren<QAbstractButton*>().size(), buttons);
+    dialog->show();
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    QCOMPARE(dialog->isVisible(), visibleAfter);
 }
 
-void tst_ProgressDialogs::workerEndingBeforeExecEndsIt()
+void tst_ProgressDialogs::worker_data()
 {
+    QTest::addColumn<bool>("waitsForGui");
+    QTest::addColumn<int>("repeat");
     // The worker is done before exec() starts; its reset waits in the queue. Many times over:
     // a thread let go of while it still finishes gets cancelled mid-teardown, which aborts.
-    for (int i = 0; i < 200; ++i) {
+    QTest::newRow("worker ending before exec ends it") << false << 200;
+    // Only the GUI thread's timer can let the worker go on, so the bar must keep it running.
+    QTest::newRow("GUI thread runs while the worker waits") << true << 1;
+}
+
+void tst_ProgressDialogs::worker()
+{
+    QFETCH(bool, waitsForGui);
+    QFETCH(int, repeat);
+    QThread* gui = QThread::currentThread();
+    for (int i = 0; i < repeat; ++i) {
         GUI_MarqueeProgressDialog dialog(nullptr, QString(), QString(), false);
-        auto* thread = new VIGenThread([] { return false; });
+        QSemaphore released;
+        std::atomic<bool> onWorker { false };
+        auto* thread = new VIGenThread([&] {
+            onWorker = QThread::currentThread() != gui;
+            return waitsForGui && released.tryAcquire(1, 10000);
+        });
+        if (waitsForGui)
+            QTimer::singleShot(0, [&] { released.release(); });
         QVERIFY(runGuarded(dialog, thread));
+        QVERIFY(onWorker);
+        QCOMPARE(thread->result(), waitsForGui);
+        // Nothing of the worker outlives run().
         QVERIFY(thread->isFinished());
-        QVERIFY(!thread->result());
         QVERIFY(!dialog.isVisible());
         delete thread;
     }
-}
-
-void tst_ProgressDialogs::guiThreadRunsWhileWorkerWaits()
-{
-    GUI_MarqueeProgressDialog dialog(nullptr, QString(), QString(), false);
-    QSemaphore released;
-    std::atomic<bool> onWorker{false};
-    QThread* gui = QThread::currentThread();
-    auto* thread = new VIGenThread([&] {
-        onWorker = QThread::currentThread() != gui;
-        // Only the GUI thread's timer can let the worker go on.
-        return released.tryAcquire(1, 10000);
-    });
-    QTimer::singleShot(50, [&] { released.release(); });
-    QVERIFY(runGuarded(dialog, thread));
-    QVERIFY(onWorker);
-    QVERIFY(thread->result());
-    // Nothing of the worker outlives run().
-    QVERIFY(thread->isFinished());
-    delete thread;
 }
 
 void tst_ProgressDialogs::backgroundTask_data()
@@ -150,10 +145,13 @@ void tst_ProgressDialogs::backgroundTask_data()
     QTest::addColumn<bool>("completed");
     QTest::addColumn<QString>("reportedType");
     QTest::addColumn<QString>("reportedText");
-    QTest::newRow("success reports nothing") << 0 << true << "" << "";
+    QTest::newRow("success reports nothing") << 0 << true << ""
+                                             << "";
     QTest::newRow("APP_Exception reaches the user with its text and code")
-        << 1 << false << "APP_Exception" << "Reflecting failed";
-    QTest::newRow("other exception still reported") << 2 << false << "std::exception" << "";
+        << 1 << false << "APP_Exception"
+        << "Reflecting failed";
+    QTest::newRow("other exception still reported") << 2 << false << "std::exception"
+                                                    << "";
 }
 
 void tst_ProgressDialogs::backgroundTask()
@@ -167,15 +165,16 @@ void tst_ProgressDialogs::backgroundTask()
     HST_Host host(HST_Scenario(), &recorder, dir.filePath(QStringLiteral("p.ini")));
     BoxCloser closer;
 
-    std::atomic<bool> offGuiThread{false};
+    std::atomic<bool> offGuiThread { false };
     QThread* gui = QThread::currentThread();
-    const bool result = UTL_BackgroundTask::run(&host, QStringLiteral("Saving..."), [=, &offGuiThread] {
-        offGuiThread = QThread::currentThread() != gui;
-        if (failure == 1)
-            throw APP_Exception(QStringLiteral("Reflecting failed"), 7);
-        if (failure == 2)
-            throw std::runtime_error("plain");
-    });
+    const bool result
+        = UTL_BackgroundTask::run(&host, QStringLiteral("Saving..."), [=, &offGuiThread] {
+              offGuiThread = QThread::currentThread() != gui;
+              if (failure == 1)
+                  throw APP_Exception(QStringLiteral("Reflecting failed"), 7);
+              if (failure == 2)
+                  throw std::runtime_error("plain");
+          });
     QCOMPARE(result, completed);
     QVERIFY(offGuiThread);
     const QList<QJsonObject> busy = recorder.events(QStringLiteral("busy"));
