@@ -1,3 +1,6 @@
+// The generator driver and its VISA binding against a scripted VISA library: what the
+// simulated instrument can't easily be made to do (a library lacking an entry point, positive
+// completion codes, overlong replies, odd identities and frequencies).
 #include "FakeVisa.h"
 
 #include "generator/DOC_VIGen.h"
@@ -6,8 +9,12 @@
 
 #include <QtTest>
 
+#include <stdexcept>
+
 namespace {
 
+// Completion codes of the VISA standard: a positive success code and an error.
+constexpr int successTermChar = 0x3FFF0005;
 constexpr int errorTimeout = int(0xBFFF0015);
 
 QStringList calls()
@@ -43,17 +50,20 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void loadLibraryFollowsEnvironment();
-    void connectOpensResourceOnWorker();
+    void incompleteLibraryIsRefused_data();
+    void incompleteLibraryIsRefused();
+    void openStatus_data();
+    void openStatus();
     void connectWhileLiveTouchesNothing();
-    void failedOpenLeavesDisconnected();
-    void lostLinkKeepsSession();
+    void statusSign_data();
+    void statusSign();
+    void replyLength_data();
+    void replyLength();
     void supportedDevice_data();
     void supportedDevice();
     void frequency_data();
     void frequency();
     void notConnectedSendsNothing();
-    void syncSequence();
     void syncStopsAtFirstFailure();
 
 private:
@@ -79,29 +89,61 @@ void tst_VIGen::cleanup()
     QVERIFY(!vi::isLoaded());
 }
 
-void tst_VIGen::loadLibraryFollowsEnvironment()
+// Without a usable library the generator isn't offered, and nothing may crash on the way.
+void tst_VIGen::incompleteLibraryIsRefused_data()
 {
-    delete m_driver;
-    qputenv("SYNC_VISA_LIBRARY", "/nonexistent/libvisa.so");
-    m_driver = new DOC_VIGen(nullptr);
-    QVERIFY(!m_driver->loadLibrary());
-    // Without a library there is no session to open and nothing to crash on.
-    QVERIFY(!m_driver->connect(0, 0x7F000001));
-    qputenv("SYNC_VISA_LIBRARY", FAKEVISA_FILE);
-    QVERIFY(m_driver->loadLibrary());
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("no library") << QByteArray("/nonexistent/libvisa.so");
+    for (const char* name :
+        { "viOpenDefaultRM", "viOpen", "viPrintf", "viScanf", "viClose", "viClear" })
+        QTest::newRow(name) << QStringLiteral(FAKEVISA_DIR "/libfakevisa_no_%1.so")
+                                   .arg(QLatin1String(name))
+                                   .toLocal8Bit();
 }
 
-void tst_VIGen::connectOpensResourceOnWorker()
+void tst_VIGen::incompleteLibraryIsRefused()
 {
-    QVERIFY(m_driver->connect(0, 0x01020304));
-    // Closing what an earlier attempt may have left comes first.
-    QVERIFY(calls().at(0).startsWith(QLatin1String("viClose|")));
-    QVERIFY(calls().at(1).startsWith(QLatin1String("viClose|")));
-    QCOMPARE(calls().mid(2), (QStringList{"viOpenDefaultRM",
-                                   "viOpen|100|TCPIP0::1.2.3.4::inst0::INSTR|0|0"}));
-    fakeVisaReset();
-    m_driver->disconnect();
-    QCOMPARE(calls(), (QStringList{"viClose|7", "viClose|100"}));
+    QFETCH(QByteArray, file);
+    delete m_driver;
+    qputenv("SYNC_VISA_LIBRARY", file);
+    m_driver = new DOC_VIGen(nullptr);
+    QVERIFY(!m_driver->loadLibrary());
+    QVERIFY(!vi::isLoaded());
+    QVERIFY(!m_driver->connect(0, 0x7F000001));
+    // Not half-loaded: a complete library is then really loaded and works.
+    qputenv("SYNC_VISA_LIBRARY", FAKEVISA_FILE);
+    QVERIFY(m_driver->loadLibrary());
+    QVERIFY(m_driver->connect(0, 0x7F000001));
+}
+
+void tst_VIGen::openStatus_data()
+{
+    QTest::addColumn<int>("managerStatus");
+    QTest::addColumn<int>("openStatus");
+    QTest::addColumn<bool>("opened");
+    QTest::newRow("both succeed") << 0 << 0 << true;
+    QTest::newRow("positive open status is a failure") << 0 << successTermChar << false;
+    QTest::newRow("manager failure stops before viOpen") << errorTimeout << 0 << false;
+}
+
+void tst_VIGen::openStatus()
+{
+    QFETCH(int, managerStatus);
+    QFETCH(int, openStatus);
+    QFETCH(bool, opened);
+    fakeVisaSetStatus("viOpenDefaultRM", managerStatus);
+    fakeVisaSetStatus("viOpen", openStatus);
+    QCOMPARE(m_driver->connect(0, 0x01020304), opened);
+    QCOMPARE(m_driver->isConnected(), opened);
+    const QStringList opens = calls().filter(QStringLiteral("viOpen"));
+    QCOMPARE(opens.size(), managerStatus ? 1 : 2);
+    if (!managerStatus)
+        QCOMPARE(opens.last(), QStringLiteral("viOpen|100|TCPIP0::1.2.3.4::inst0::INSTR|0|0"));
+    if (opened) {
+        fakeVisaReset();
+        m_driver->disconnect();
+        QCOMPARE(calls(), (QStringList { "viClose|7", "viClose|100" }));
+    }
 }
 
 void tst_VIGen::connectWhileLiveTouchesNothing()
@@ -111,25 +153,67 @@ void tst_VIGen::connectWhileLiveTouchesNothing()
     queueReply("+1.0E+03\n");
     QVERIFY(m_driver->connect(0, 0x05060708));
     // Only the live test went out: the session to the first address stays.
-    QCOMPARE(calls(), (QStringList{"viPrintf|7|FREQ?\n", "viScanf|7|%1024t"}));
+    QCOMPARE(calls(), (QStringList { "viPrintf|7|FREQ?\n", "viScanf|7|%1024t" }));
 }
 
-void tst_VIGen::failedOpenLeavesDisconnected()
+void tst_VIGen::statusSign_data()
 {
-    fakeVisaSetStatus("viOpen", errorTimeout);
-    QVERIFY(!m_driver->connect(0, 0x7F000002));
-    QVERIFY(!m_driver->isConnected());
-    QVERIFY(!m_driver->isSupportedDevice());
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("send: positive is success") << "viPrintf" << successTermChar << "";
+    QTest::newRow("send: negative throws with the command")
+        << "viPrintf" << errorTimeout
+        << "visa.dll error, function: vi::sendCommandString error:-1073807339 command:FREQ?\n";
+    QTest::newRow("receive: positive is success") << "viScanf" << successTermChar << "";
+    QTest::newRow("receive: negative throws")
+        << "viScanf" << errorTimeout
+        << "visa.dll error, function: vi::recvString error:-1073807339";
+    QTest::newRow("clear: positive is success") << "viClear" << 1 << "";
+    QTest::newRow("clear: negative throws")
+        << "viClear" << -1 << "visa.dll error, function: vi::clear error:-1";
 }
 
-void tst_VIGen::lostLinkKeepsSession()
+void tst_VIGen::statusSign()
 {
-    QVERIFY(m_driver->connect(0, 0x01020304));
-    fakeVisaReset();
-    fakeVisaSetStatus("viScanf", errorTimeout);
-    QVERIFY(!m_driver->isConnected());
-    // Closing is left to the next disconnect.
-    QVERIFY(!calls().join(QLatin1Char(' ')).contains(QLatin1String("viClose")));
+    QFETCH(QString, function);
+    QFETCH(int, status);
+    QFETCH(QString, error);
+    fakeVisaSetStatus(function.toLatin1().constData(), status);
+    QString thrown;
+    try {
+        if (function == QLatin1String("viPrintf"))
+            vi::sendCommandString(QStringLiteral("FREQ?\n"));
+        else if (function == QLatin1String("viScanf"))
+            vi::recvString();
+        else
+            vi::clear();
+    } catch (const std::runtime_error& e) {
+        thrown = QString::fromUtf8(e.what());
+    }
+    QCOMPARE(thrown, error);
+}
+
+void tst_VIGen::replyLength_data()
+{
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("line end stays") << QByteArray("+1.0E+03\n") << "+1.0E+03\n";
+    QTest::newRow("text stops at a zero byte") << QByteArray("ab\0cd", 5) << "ab";
+    QTest::newRow("exactly 1024 bytes, no zero after them")
+        << QByteArray(1024, 'x') << QString(1024, QLatin1Char('x'));
+    QTest::newRow("longer reply is cut at 1024")
+        << QByteArray(5000, 'y') << QString(1024, QLatin1Char('y'));
+}
+
+void tst_VIGen::replyLength()
+{
+    QFETCH(QByteArray, reply);
+    QFETCH(QString, expected);
+    queueReply(reply);
+    QCOMPARE(vi::recvString(), expected);
+    QCOMPARE(calls().size(), 1);
+    QVERIFY(calls().first().endsWith(QLatin1String("|%1024t")));
 }
 
 void tst_VIGen::supportedDevice_data()
@@ -155,7 +239,7 @@ void tst_VIGen::supportedDevice()
     fakeVisaReset();
     queueReply(identity);
     QCOMPARE(m_driver->isSupportedDevice(), supported);
-    QCOMPARE(printed(), QStringList{"*IDN?\n"});
+    QCOMPARE(printed(), QStringList { "*IDN?\n" });
 }
 
 void tst_VIGen::frequency_data()
@@ -187,24 +271,6 @@ void tst_VIGen::notConnectedSendsNothing()
     QVERIFY(calls().isEmpty());
 }
 
-void tst_VIGen::syncSequence()
-{
-    QVERIFY(m_driver->connect(0, 0x7F000001));
-    fakeVisaReset();
-    m_driver->sync(4000);
-    QCOMPARE(calls().at(1), QStringLiteral("viClear|7"));
-    QCOMPARE(printed(), (QStringList{"*RST\n",
-                                     "DISP ON\n",
-                                     "DISP:TEXT \"Tarvix4 Setting Start\"\n",
-                                     "FUNC:SHAP PULS\n",
-                                     "FREQ 4000\n",
-                                     "VOLT:LOW 0\n",
-                                     "VOLT:HIGH 5\n",
-                                     "FUNC:PULS:DCYC 50\n",
-                                     "OUTP ON\n",
-                                     "DISP:TEXT \"Tarvix4 Setting End\"\n"}));
-}
-
 void tst_VIGen::syncStopsAtFirstFailure()
 {
     QVERIFY(m_driver->connect(0, 0x7F000001));
@@ -217,7 +283,7 @@ void tst_VIGen::syncStopsAtFirstFailure()
         message = QString::fromUtf8(e.what());
     }
     QCOMPARE(message, QStringLiteral("Failed sync to signal generator"));
-    QCOMPARE(calls(), (QStringList{"viPrintf|7|*RST\n", "viClear|7"}));
+    QCOMPARE(calls(), (QStringList { "viPrintf|7|*RST\n", "viClear|7" }));
     // A failed setup leaves the session as it was.
     fakeVisaSetStatus("viClear", 0);
     queueReply("+1.0E+03\n");
