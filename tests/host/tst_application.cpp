@@ -2,6 +2,7 @@
 #include "host/HST_Host.h"
 #include "host/HST_MainWindow.h"
 #include "host/HST_Recorder.h"
+#include "plugin/DOC_LinkCore.h"
 
 #include <QAction>
 #include <QProcess>
@@ -29,14 +30,15 @@ private slots:
     void loaderErrors();
     void enableRuleFollowsState_data();
     void enableRuleFollowsState();
-    void pluginExceptionArrivesAsAppException();
-    void hostExceptionCrossesThePlugin();
-    void failedStepEndsRunWithCode3_data();
-    void failedStepEndsRunWithCode3();
+    void exceptionCrossesTheLibraryBoundary_data();
+    void exceptionCrossesTheLibraryBoundary();
     void visaOfferedAsTheScenarioSays_data();
     void visaOfferedAsTheScenarioSays();
     void commandLine_data();
     void commandLine();
+    void mdiWidgetIsFreshForEachPage();
+    void frequencyPendingUntilApplied_data();
+    void frequencyPendingUntilApplied();
 
 private:
     HST_Options options(const QByteArray& scenario) const;
@@ -144,81 +146,49 @@ void tst_Application::enableRuleFollowsState()
         after);
 }
 
-void tst_Application::pluginExceptionArrivesAsAppException()
+void tst_Application::exceptionCrossesTheLibraryBoundary_data()
 {
+    QTest::addColumn<QByteArray>("scenario");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("errorCode");
+
     // The plug-in throws its APP_Exception; the host's dynamic_cast must still see the type,
     // which needs one type identity on both sides of the library boundary.
-    HST_Options options = this->options("{\"cameras\": [{\"documents\": 2}]}");
-    options.press = pluginName;
-    options.answers = QStringList { QStringLiteral("OK") };
-    HST_Application application(options);
-    QCOMPARE(application.run(), 0);
-    const QList<QJsonObject> reports
-        = application.recorder()->events(QStringLiteral("reportException"));
-    QCOMPARE(reports.size(), 1);
-    QCOMPARE(reports.first().value("text").toString(),
-        QStringLiteral("Because there is only one camera, synchronization is not necessary."));
-    QCOMPARE(reports.first().value("type").toString(), QStringLiteral("APP_Exception"));
-    QCOMPARE(reports.first().value("errorCode").toInt(), 0);
-    QCOMPARE(application.recorder()->events(QStringLiteral("step")).size(), 1);
+    QTest::newRow("plug-in's refusal reaches the host as APP_Exception")
+        << QByteArray("{\"cameras\": [{\"documents\": 2}]}")
+        << "Because there is only one camera, synchronization is not necessary." << 0;
+    // The host throws inside a call the plug-in makes while it checks its cameras; it unwinds
+    // through the plug-in's frames and guards and must arrive as the host's own object.
+    QTest::newRow("host's exception crosses the plug-in unchanged")
+        << QByteArray("{\"cameras\": [{}, {}], "
+                      "\"faults\": {\"syncCapableTypes\": \"Type list unavailable.\"}}")
+        << "Type list unavailable." << 1;
 }
 
-void tst_Application::hostExceptionCrossesThePlugin()
+void tst_Application::exceptionCrossesTheLibraryBoundary()
 {
-    // The host throws inside a call the plug-in makes while it checks its cameras; the
-    // exception unwinds through the plug-in's frames, is caught by its execute and handed back.
-    // What arrives must be the host's own object: same type, text and code.
-    HST_Options options = this->options(
-        "{\"cameras\": [{}, {}], \"faults\": {\"syncCapableTypes\": \"Type list unavailable.\"}}");
+    QFETCH(QByteArray, scenario);
+    QFETCH(QString, text);
+    QFETCH(int, errorCode);
+    HST_Options options = this->options(scenario);
     options.press = pluginName;
     options.answers = QStringList { QStringLiteral("OK") };
     HST_Application application(options);
     QCOMPARE(application.run(), 0);
     HST_Recorder* recorder = application.recorder();
-    QCOMPARE(recorder->events(QStringLiteral("fault")).size(), 1);
     const QList<QJsonObject> reports = recorder->events(QStringLiteral("reportException"));
     QCOMPARE(reports.size(), 1);
-    QCOMPARE(reports.first().value("text").toString(), QStringLiteral("Type list unavailable."));
+    QCOMPARE(reports.first().value("text").toString(), text);
     QCOMPARE(reports.first().value("type").toString(), QStringLiteral("APP_Exception"));
-    QCOMPARE(reports.first().value("errorCode").toInt(), 1);
+    QCOMPARE(reports.first().value("errorCode").toInt(), errorCode);
     // The plug-in's scope guards ran during the unwinding.
     bool left = false;
     for (const QJsonObject& line : recorder->events(QStringLiteral("log"))) {
-        const QString text = line.value("text").toString();
-        left |= text.startsWith(QLatin1String("[LEAVE]"))
-            && text.contains(QLatin1String("GUI_SyncControl::init"));
+        const QString logged = line.value("text").toString();
+        left |= logged.startsWith(QLatin1String("[LEAVE]"))
+            && logged.contains(QLatin1String("GUI_SyncControl::init"));
     }
     QVERIFY(left);
-}
-
-void tst_Application::failedStepEndsRunWithCode3_data()
-{
-    QTest::addColumn<QString>("press");
-    QTest::addColumn<QString>("scriptError");
-
-    // The plug-in's dialog is open when the step fails: the run must close it and return.
-    QTest::newRow("button missing in plug-in dialog") << pluginName << "script step 1";
-    QTest::newRow("press names no plug-in") << QStringLiteral("nosuchplugin") << QString();
-}
-
-void tst_Application::failedStepEndsRunWithCode3()
-{
-    QFETCH(QString, press);
-    QFETCH(QString, scriptError);
-    HST_Options options = this->options("{\"cameras\": [{}, {}]}");
-    options.press = press;
-    options.steps
-        = QJsonArray { QJsonObject { { QStringLiteral("click"), QStringLiteral("Nope") } } };
-    options.stepTimeoutMs = 500;
-    HST_Application application(options);
-    QCOMPARE(application.run(), 3);
-    QCOMPARE(QApplication::activeModalWidget(), nullptr);
-    const QList<QJsonObject> errors = application.recorder()->events(QStringLiteral("scriptError"));
-    QCOMPARE(errors.size(), scriptError.isEmpty() ? 0 : 1);
-    if (!scriptError.isEmpty())
-        QVERIFY(errors.first().value("text").toString().startsWith(scriptError));
-    else
-        QVERIFY(application.error().contains(press));
 }
 
 void tst_Application::visaOfferedAsTheScenarioSays_data()
@@ -295,6 +265,43 @@ void tst_Application::commandLine()
             && event.value("text").toString().startsWith(QLatin1String("Because"));
     }
     QVERIFY(reported);
+}
+
+// A page deletes the widget it embedded with itself: two pages must never share one.
+void tst_Application::mdiWidgetIsFreshForEachPage()
+{
+    HST_Application application(options("{}"));
+    QCOMPARE(application.start(), 0);
+    std::unique_ptr<QObject> first(application.host()->mdiWidget());
+    std::unique_ptr<QObject> second(application.host()->mdiWidget());
+    QVERIFY(qobject_cast<QWidget*>(first.get()));
+    QVERIFY(first != second);
+    QCOMPARE(first->parent(), nullptr);
+}
+
+// Any chosen hub frequency, the applied one too, keeps "Sync execute" blinking until the sync.
+void tst_Application::frequencyPendingUntilApplied_data()
+{
+    QTest::addColumn<int>("chosen");
+    QTest::newRow("another frequency") << 5000;
+    QTest::newRow("the applied frequency chosen again") << 1000;
+}
+
+void tst_Application::frequencyPendingUntilApplied()
+{
+    QFETCH(int, chosen);
+    HST_Application application(
+        options("{\"hubs\": [{\"ip\": \"10.0.0.1\", \"frequency\": 1000}]}"));
+    QCOMPARE(application.start(), 0);
+    HST_Host* host = application.host();
+    DOC_LinkCore* hub = host->device(QStringLiteral("10.0.0.1"));
+    QVERIFY(!host->hasUnappliedChanges());
+    hub->setFrequency(chosen);
+    QVERIFY(host->hasUnappliedChanges());
+    QCOMPARE(hub->frequency(), chosen);
+    host->applyChanges();
+    QVERIFY(!host->hasUnappliedChanges());
+    QCOMPARE(hub->frequency(), chosen);
 }
 
 QTEST_MAIN(tst_Application)
