@@ -74,12 +74,8 @@ private slots:
     void init();
     void cleanup();
     void formsStartFromTheHost();
-    void addAddress_data();
-    void addAddress();
-    void deleteAddresses_data();
-    void deleteAddresses();
-    void searchListKeptOrDropped_data();
-    void searchListKeptOrDropped();
+    void searchList_data();
+    void searchList();
     void changeAddress_data();
     void changeAddress();
 
@@ -170,115 +166,101 @@ void tst_AddressDialogs::formsStartFromTheHost()
         QStringLiteral("0.0.0"));
 }
 
-void tst_AddressDialogs::addAddress_data()
+void tst_AddressDialogs::searchList_data()
 {
-    QTest::addColumn<QStringList>("typed");
-    QTest::addColumn<QString>("sent");
-    QTest::addColumn<QStringList>("expected");
+    // Actions: "a.b.c.d" typed into the fields ("paste:" before an octet pastes it), "add",
+    // "select:N", "delete", and last "Ok" or "Cancel" to end the dialog.
+    QTest::addColumn<QStringList>("actions");
+    QTest::addColumn<QStringList>("sent");
+    QTest::addColumn<int>("removed");
+    QTest::addColumn<QStringList>("table");
+    QTest::addColumn<QStringList>("kept");
 
     const QStringList start { "10.0.0.1", "10.0.0.2", "10.0.0.3" };
-    QTest::newRow("address added at the end") << QStringList { "192", "168", "0",
-        "7" } << "192.168.0.7" << start + QStringList { "192.168.0.7" };
-    QTest::newRow("octet above 255 cannot be typed") << QStringList { "10", "300", "0",
-        "256" } << "10.30.0.25" << start + QStringList { "10.30.0.25" };
+    QTest::newRow("address added at the end")
+        << QStringList { "192.168.0.7", "add" } << QStringList { "192.168.0.7" } << 0
+        << start + QStringList { "192.168.0.7" } << start + QStringList { "192.168.0.7" };
+    QTest::newRow("octet above 255 cannot be typed")
+        << QStringList { "10.300.0.256", "add" } << QStringList { "10.30.0.25" } << 0
+        << start + QStringList { "10.30.0.25" } << start + QStringList { "10.30.0.25" };
     QTest::newRow("pasted octet above 255 stays out, so the address is refused")
-        << QStringList { "10", "paste:300", "0", "1" } << QString() << start;
+        << QStringList { "10.paste:300.0.1", "add" } << QStringList() << 0 << start << start;
     QTest::newRow("letters cannot be typed")
-        << QStringList { "1a", "2", "3", "4" } << "1.2.3.4" << start + QStringList { "1.2.3.4" };
+        << QStringList { "1a.2.3.4", "add" } << QStringList { "1.2.3.4" } << 0
+        << start + QStringList { "1.2.3.4" } << start + QStringList { "1.2.3.4" };
     QTest::newRow("listed address still goes to the host")
-        << QStringList { "10", "0", "0", "2" } << "10.0.0.2" << start;
+        << QStringList { "10.0.0.2", "add" } << QStringList { "10.0.0.2" } << 0 << start << start;
     QTest::newRow("empty octet refused")
-        << QStringList { "10", "0", "", "9" } << QString() << start;
-}
-
-void tst_AddressDialogs::addAddress()
-{
-    QFETCH(QStringList, typed);
-    QFETCH(QString, sent);
-    QFETCH(QStringList, expected);
-    GUI_SyncControlSearchSetting dialog(m_host.get(), nullptr);
-    dialog.show();
-    typeOctets(&dialog, typed);
-    dialog.findChild<QPushButton*>(QStringLiteral("addButton"))->click();
-
-    const QList<QJsonObject> calls = linkCoreCalls(QStringLiteral("addSearchAddress"));
-    QCOMPARE(calls.size(), sent.isEmpty() ? 0 : 1);
-    if (!sent.isEmpty())
-        QCOMPARE(calls.first().value(QStringLiteral("ip")).toString(), sent);
-    QCOMPARE(shown(QStringLiteral("message")),
-        sent.isEmpty() ? QStringList { "Input IPAddress" } : QStringList());
-    QCOMPARE(hostAddresses(), expected);
-    QCOMPARE(tableTexts(&dialog), expected);
-    QVERIFY(dialog.isVisible());
-}
-
-void tst_AddressDialogs::deleteAddresses_data()
-{
-    QTest::addColumn<QList<int>>("selectedRows");
-    QTest::addColumn<QStringList>("expected");
-
+        << QStringList { "10.0..9", "add" } << QStringList() << 0 << start << start;
     QTest::newRow("nothing selected only reloads")
-        << QList<int>() << QStringList { "10.0.0.1", "10.0.0.2", "10.0.0.3" };
-    QTest::newRow("every selected row goes") << QList<int> { 0, 2 } << QStringList { "10.0.0.2" };
-}
-
-void tst_AddressDialogs::deleteAddresses()
-{
-    QFETCH(QList<int>, selectedRows);
-    QFETCH(QStringList, expected);
-    GUI_SyncControlSearchSetting dialog(m_host.get(), nullptr);
-    dialog.show();
-    auto* table = dialog.findChild<QTableWidget*>();
-    for (int row : selectedRows)
-        table->selectRow(row);
-    dialog.findChild<QPushButton*>(QStringLiteral("deleteButton"))->click();
-
-    QCOMPARE(linkCoreCalls(QStringLiteral("removeSearchAddress")).size(), selectedRows.size());
-    QCOMPARE(hostAddresses(), expected);
-    QCOMPARE(tableTexts(&dialog), expected);
-}
-
-void tst_AddressDialogs::searchListKeptOrDropped_data()
-{
-    QTest::addColumn<QDialogButtonBox::StandardButton>("button");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<QString>("logged");
-
+        << QStringList { "delete" } << QStringList() << 0 << start << start;
+    QTest::newRow("every selected row goes")
+        << QStringList { "select:0", "select:2", "delete" } << QStringList() << 2
+        << QStringList { "10.0.0.2" } << QStringList { "10.0.0.2" };
+    const QStringList edits { "10.1.1.1", "add", "10.1.1.2", "add", "select:0", "delete" };
+    const QStringList edited { "10.0.0.2", "10.0.0.3", "10.1.1.1", "10.1.1.2" };
     QTest::newRow("Ok keeps the edits")
-        << QDialogButtonBox::Ok << int(QDialog::Accepted)
-        << QStringList { "10.0.0.2", "10.0.0.3", "10.1.1.1", "10.1.1.2" }
-        << "GUI_SyncControlSearchSetting::okClicked";
+        << edits + QStringList { "Ok" } << QStringList { "10.1.1.1", "10.1.1.2" } << 1 << edited
+        << edited;
     QTest::newRow("Cancel leaves the list as it was")
-        << QDialogButtonBox::Cancel << int(QDialog::Rejected)
-        << QStringList { "10.0.0.1", "10.0.0.2", "10.0.0.3" }
-        << "GUI_SyncControlSearchSetting::cancelClicked";
+        << edits + QStringList { "Cancel" } << QStringList { "10.1.1.1", "10.1.1.2" } << 1 << edited
+        << start;
 }
 
-void tst_AddressDialogs::searchListKeptOrDropped()
+void tst_AddressDialogs::searchList()
 {
-    QFETCH(QDialogButtonBox::StandardButton, button);
-    QFETCH(int, result);
-    QFETCH(QStringList, expected);
-    QFETCH(QString, logged);
+    QFETCH(QStringList, actions);
+    QFETCH(QStringList, sent);
+    QFETCH(int, removed);
+    QFETCH(QStringList, table);
+    QFETCH(QStringList, kept);
     GUI_SyncControlSearchSetting dialog(m_host.get(), nullptr);
+    QStringList shownTable;
     QTimer::singleShot(0, &dialog, [&] {
-        for (const char* last : { "1", "2" }) {
-            typeOctets(&dialog, { "10", "1", "1", last });
-            dialog.findChild<QPushButton*>(QStringLiteral("addButton"))->click();
+        for (const QString& action : actions) {
+            if (action == QLatin1String("Ok") || action == QLatin1String("Cancel")) {
+                shownTable = tableTexts(&dialog);
+                boxButton(&dialog,
+                    action == QLatin1String("Ok") ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)
+                    ->click();
+                return;
+            }
+            if (action.startsWith(QLatin1String("select:")))
+                dialog.findChild<QTableWidget*>()->selectRow(action.mid(7).toInt());
+            else if (action == QLatin1String("add") || action == QLatin1String("delete"))
+                dialog.findChild<QPushButton*>(action + QStringLiteral("Button"))->click();
+            else
+                typeOctets(&dialog, action.split(QLatin1Char('.')));
         }
-        dialog.findChild<QTableWidget*>()->selectRow(0);
-        dialog.findChild<QPushButton*>(QStringLiteral("deleteButton"))->click();
-        boxButton(&dialog, button)->click();
+        shownTable = tableTexts(&dialog);
+        dialog.done(2);
     });
-    QCOMPARE(dialog.exec(), result);
-    QCOMPARE(hostAddresses(), expected);
-    bool found = false;
-    for (const QJsonObject& event : m_recorder->events(QStringLiteral("log"))) {
-        const QString text = event.value(QStringLiteral("text")).toString();
-        found = found || (text.contains(QStringLiteral("[USER]")) && text.contains(logged));
+    const int result = dialog.exec();
+    QCOMPARE(result,
+        actions.last() == QLatin1String("Ok")           ? int(QDialog::Accepted)
+            : actions.last() == QLatin1String("Cancel") ? int(QDialog::Rejected)
+                                                        : 2);
+
+    QStringList sentAddresses;
+    for (const QJsonObject& call : linkCoreCalls(QStringLiteral("addSearchAddress")))
+        sentAddresses << call.value(QStringLiteral("ip")).toString();
+    QCOMPARE(sentAddresses, sent);
+    QCOMPARE(linkCoreCalls(QStringLiteral("removeSearchAddress")).size(), removed);
+    const bool refused = actions.contains(QStringLiteral("add")) && sent.isEmpty();
+    QCOMPARE(shown(QStringLiteral("message")),
+        refused ? QStringList { "Input IPAddress" } : QStringList());
+    QCOMPARE(shownTable, table);
+    QCOMPARE(hostAddresses(), kept);
+    if (result != 2) {
+        const QString logged = QStringLiteral("GUI_SyncControlSearchSetting::%1Clicked")
+                                   .arg(actions.last().toLower());
+        bool found = false;
+        for (const QJsonObject& event : m_recorder->events(QStringLiteral("log"))) {
+            const QString text = event.value(QStringLiteral("text")).toString();
+            found = found || (text.contains(QStringLiteral("[USER]")) && text.contains(logged));
+        }
+        QVERIFY2(found, qPrintable(logged));
     }
-    QVERIFY2(found, qPrintable(logged));
 }
 
 void tst_AddressDialogs::changeAddress_data()

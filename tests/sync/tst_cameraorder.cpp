@@ -1,5 +1,3 @@
-#include "../MessageCapture.h"
-
 #include "host/HST_CameraState.h"
 #include "host/HST_Document.h"
 #include "sync/SyncCameraOrder.h"
@@ -57,10 +55,8 @@ class tst_CameraOrder : public QObject
 private slots:
     void sort_data();
     void sort();
-    void sortLogsOrder();
     void candidates_data();
     void candidates();
-    void triggerModeSets();
 };
 
 void tst_CameraOrder::sort_data()
@@ -72,25 +68,24 @@ void tst_CameraOrder::sort_data()
     QTest::addColumn<QStringList>("expected");
 
     QTest::newRow("external: addresses compare unsigned, master keeps its place")
-        << QStringList{"192.168.0.1 0 0", "10.0.0.2 0 0", "10.0.0.1 0 0"} << "192.168.0.1"
-        << true << 1 << QStringList{"10.0.0.1", "10.0.0.2", "192.168.0.1"};
+        << QStringList { "192.168.0.1 0 0", "10.0.0.2 0 0", "10.0.0.1 0 0" } << "192.168.0.1"
+        << true << 1 << QStringList { "10.0.0.1", "10.0.0.2", "192.168.0.1" };
     QTest::newRow("chain unmixed ignores flag first: class 1 before plain")
-        << QStringList{"10.0.0.1 0 0", "10.0.0.2 0 1", "10.0.0.3 0 0", "10.0.0.4 0 1"}
+        << QStringList { "10.0.0.1 0 0", "10.0.0.2 0 1", "10.0.0.3 0 0", "10.0.0.4 0 1" }
         << "0.0.0.0" << false << 1
-        << QStringList{"10.0.0.2", "10.0.0.4", "10.0.0.1", "10.0.0.3"};
+        << QStringList { "10.0.0.2", "10.0.0.4", "10.0.0.1", "10.0.0.3" };
     QTest::newRow("chain mixed, flag first: flag 1, then class 1, then the rest")
-        << QStringList{"10.0.0.1 0 1", "10.0.0.2 0 0", "10.0.0.3 1 0", "10.0.0.4 2 0"}
+        << QStringList { "10.0.0.1 0 1", "10.0.0.2 0 0", "10.0.0.3 1 0", "10.0.0.4 2 0" }
         << "0.0.0.0" << false << 1
-        << QStringList{"10.0.0.3", "10.0.0.1", "10.0.0.2", "10.0.0.4"};
+        << QStringList { "10.0.0.3", "10.0.0.1", "10.0.0.2", "10.0.0.4" };
     QTest::newRow("chain mixed without flag first keeps order A")
-        << QStringList{"10.0.0.1 0 1", "10.0.0.2 1 0", "10.0.0.3 0 0"} << "0.0.0.0" << false
-        << 0 << QStringList{"10.0.0.1", "10.0.0.3", "10.0.0.2"};
+        << QStringList { "10.0.0.1 0 1", "10.0.0.2 1 0", "10.0.0.3 0 0" } << "0.0.0.0" << false << 0
+        << QStringList { "10.0.0.1", "10.0.0.3", "10.0.0.2" };
     QTest::newRow("chain: master first whatever its rank")
-        << QStringList{"10.0.0.1 0 1", "10.0.0.2 0 0", "10.0.0.9 1 0"} << "10.0.0.9" << false
-        << 0 << QStringList{"10.0.0.9", "10.0.0.1", "10.0.0.2"};
-    QTest::newRow("chain: unknown master leaves the sort")
-        << QStringList{"10.0.0.2 0 0", "10.0.0.1 0 0"} << "10.9.9.9" << false << 0
-        << QStringList{"10.0.0.1", "10.0.0.2"};
+        << QStringList { "10.0.0.1 0 1", "10.0.0.2 0 0", "10.0.0.9 1 0" } << "10.0.0.9" << false
+        << 0 << QStringList { "10.0.0.9", "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("chain: unknown master leaves the sort") << QStringList { "10.0.0.2 0 0",
+        "10.0.0.1 0 0" } << "10.9.9.9" << false << 0 << QStringList { "10.0.0.1", "10.0.0.2" };
 }
 
 void tst_CameraOrder::sort()
@@ -100,19 +95,9 @@ void tst_CameraOrder::sort()
     QFETCH(bool, external);
     QFETCH(int, flagFirst);
     QFETCH(QStringList, expected);
-    MessageCapture capture;
     CameraSet set(cameras, 1);
     sortCameras(set.cameras, ipToNumber(master), external, flagFirst);
     QCOMPARE(addresses(set.cameras), expected);
-}
-
-void tst_CameraOrder::sortLogsOrder()
-{
-    MessageCapture capture;
-    CameraSet set({"10.0.0.2 0 0", "10.0.0.1 0 0"}, 1);
-    sortCameras(set.cameras, 0, true, 0);
-    QCOMPARE(capture.texts(QtInfoMsg),
-             QStringList{QStringLiteral("\"Sorted : 10.0.0.1 -> 10.0.0.2\"")});
 }
 
 void tst_CameraOrder::candidates_data()
@@ -121,28 +106,22 @@ void tst_CameraOrder::candidates_data()
     QTest::addColumn<int>("triggerMode");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("unmixed: class 1 cameras")
-        << QStringList{"10.0.0.1 0 0", "10.0.0.2 0 1", "10.0.0.3 0 1"} << 0
-        << QStringList{"10.0.0.2", "10.0.0.3"};
-    QTest::newRow("unmixed without class 1: the plain ones")
-        << QStringList{"10.0.0.1 0 0", "10.0.0.2 0 0"} << 0
-        << QStringList{"10.0.0.1", "10.0.0.2"};
-    QTest::newRow("all flagged: the flagged ones")
-        << QStringList{"10.0.0.1 1 0", "10.0.0.2 1 0"} << 0
-        << QStringList{"10.0.0.1", "10.0.0.2"};
-    QTest::newRow("class 1 everywhere is not mixed")
-        << QStringList{"10.0.0.1 0 1", "10.0.0.2 0 1"} << 1
-        << QStringList{"10.0.0.1", "10.0.0.2"};
-    QTest::newRow("mixed, flag first: the flagged ones")
-        << QStringList{"10.0.0.1 0 1", "10.0.0.2 1 0", "10.0.0.3 0 0"} << 1
-        << QStringList{"10.0.0.2"};
+    QTest::newRow("unmixed: class 1 cameras") << QStringList { "10.0.0.1 0 0", "10.0.0.2 0 1",
+        "10.0.0.3 0 1" } << 0 << QStringList { "10.0.0.2", "10.0.0.3" };
+    QTest::newRow("unmixed without class 1: the plain ones") << QStringList { "10.0.0.1 0 0",
+        "10.0.0.2 0 0" } << 0 << QStringList { "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("all flagged: the flagged ones") << QStringList { "10.0.0.1 1 0", "10.0.0.2 1 0" }
+                                                   << 0 << QStringList { "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("class 1 everywhere is not mixed") << QStringList { "10.0.0.1 0 1",
+        "10.0.0.2 0 1" } << 1 << QStringList { "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("mixed, flag first: the flagged ones") << QStringList { "10.0.0.1 0 1",
+        "10.0.0.2 1 0", "10.0.0.3 0 0" } << 1 << QStringList { "10.0.0.2" };
     QTest::newRow("mixed, flag first, flag only on class 1: none")
-        << QStringList{"10.0.0.1 1 1", "10.0.0.2 0 0"} << 2 << QStringList{};
-    QTest::newRow("mixed, no flag first: class 1")
-        << QStringList{"10.0.0.1 0 1", "10.0.0.2 1 0", "10.0.0.3 0 0"} << 3
-        << QStringList{"10.0.0.1"};
+        << QStringList { "10.0.0.1 1 1", "10.0.0.2 0 0" } << 2 << QStringList {};
+    QTest::newRow("mixed, no flag first: class 1") << QStringList { "10.0.0.1 0 1", "10.0.0.2 1 0",
+        "10.0.0.3 0 0" } << 3 << QStringList { "10.0.0.1" };
     QTest::newRow("mixed, no flag first, no class 1: the plain ones")
-        << QStringList{"10.0.0.1 0 0", "10.0.0.2 1 0"} << 0 << QStringList{"10.0.0.1"};
+        << QStringList { "10.0.0.1 0 0", "10.0.0.2 1 0" } << 0 << QStringList { "10.0.0.1" };
 }
 
 void tst_CameraOrder::candidates()
@@ -152,20 +131,6 @@ void tst_CameraOrder::candidates()
     QFETCH(QStringList, expected);
     CameraSet set(cameras, triggerMode);
     QCOMPARE(addresses(masterCandidates(set.cameras)), expected);
-}
-
-void tst_CameraOrder::triggerModeSets()
-{
-    QList<int> mixedAllowed;
-    QList<int> flagFirst;
-    for (int mode = -1; mode <= 20; ++mode) {
-        if (allowsMixedExposure(mode))
-            mixedAllowed.append(mode);
-        if (timingFlagFirst(mode))
-            flagFirst.append(mode);
-    }
-    QCOMPARE(mixedAllowed, (QList<int>{1, 2, 3, 4, 6, 7, 13, 14}));
-    QCOMPARE(flagFirst, (QList<int>{1, 2, 4, 6, 7}));
 }
 
 QTEST_GUILESS_MAIN(tst_CameraOrder)

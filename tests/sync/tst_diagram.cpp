@@ -13,10 +13,8 @@ class tst_Diagram : public QObject
     Q_OBJECT
 
 private slots:
-    void labels_data();
-    void labels();
-    void wiresReachTheirLabels_data();
-    void wiresReachTheirLabels();
+    void diagram_data();
+    void diagram();
 };
 
 namespace {
@@ -32,29 +30,39 @@ QByteArray world(const QString& cameras, const QString& prefs, const QString& hu
 const QString TwoCameras = QStringLiteral(
     "{\"name\": \"A\", \"ip\": \"10.0.0.1\", \"type\": 1, \"model\": \"HX-1 type A model 2\"}, "
     "{\"name\": \"B\", \"ip\": \"10.0.0.2\", \"type\": 1}");
-const QString MixedTypes = QStringLiteral(
-    "{\"name\": \"A\", \"ip\": \"10.0.0.1\", \"type\": 1}, "
-    "{\"name\": \"B\", \"ip\": \"10.0.0.2\", \"type\": 35}, "
-    "{\"name\": \"C\", \"ip\": \"10.0.0.3\", \"type\": 23}");
+const QString MixedTypes = QStringLiteral("{\"name\": \"A\", \"ip\": \"10.0.0.1\", \"type\": 1}, "
+                                          "{\"name\": \"B\", \"ip\": \"10.0.0.2\", \"type\": 35}, "
+                                          "{\"name\": \"C\", \"ip\": \"10.0.0.3\", \"type\": 23}");
 const QString ExternalPrefs = QStringLiteral("\"sync/external\": true");
 const QString ChainPrefs = QStringLiteral("\"sync/external\": false");
-const QString SyncingHub =
-    QStringLiteral("{\"ip\": \"10.0.1.1\", \"syncMode\": 0, \"frequency\": 1000}");
+const QString SyncingHub
+    = QStringLiteral("{\"ip\": \"10.0.1.1\", \"syncMode\": 0, \"frequency\": 1000}");
 
 QWidget* diagramOf(QDialog* dialog)
 {
     return dialog->findChild<QWidget*>(QStringLiteral("diagram"));
 }
 
-// "name@x,y,w,h", "name:text", "name!" (absent), "name#N" (how many), "@minHeight=N".
+// "name@x,y,w,h", "name:text", "name!" (absent), "name#N" (how many), "@minHeight=N", and
+// "x,y=colour" for a pixel of the rendered diagram.
 QString describe(QWidget* diagram, const QString& query)
 {
+    if (query.at(0).isDigit()) {
+        const QStringList xy = query.section(QLatin1Char('='), 0, 0).split(QLatin1Char(','));
+        const QColor c = diagram->grab().toImage().pixelColor(xy.at(0).toInt(), xy.at(1).toInt());
+        const QString colour = c == QColor(Qt::green) ? QStringLiteral("green")
+            : c == QColor(Qt::red)                    ? QStringLiteral("red")
+            : c == QColor(Qt::blue)                   ? QStringLiteral("blue")
+                                                      : QStringLiteral("other");
+        return query.section(QLatin1Char('='), 0, 0) + QLatin1Char('=') + colour;
+    }
     if (query.startsWith(QLatin1String("@minHeight")))
         return QStringLiteral("@minHeight=%1").arg(diagram->minimumHeight());
     if (query.contains(QLatin1Char('#'))) {
         const QString name = query.section(QLatin1Char('#'), 0, 0);
         return name + QLatin1Char('#')
-               + QString::number(diagram->findChildren<QWidget*>(name, Qt::FindDirectChildrenOnly).size());
+            + QString::number(
+                diagram->findChildren<QWidget*>(name, Qt::FindDirectChildrenOnly).size());
     }
     const bool absent = query.endsWith(QLatin1Char('!'));
     const QString name = query.section(QRegularExpression(QStringLiteral("[@:!]")), 0, 0);
@@ -72,103 +80,66 @@ QString describe(QWidget* diagram, const QString& query)
     if (query.contains(QLatin1Char(':')))
         return name + QLatin1Char(':') + qobject_cast<QLabel*>(child)->text().replace('\n', '|');
     const QRect g = child->geometry();
-    return QStringLiteral("%1@%2,%3,%4,%5").arg(name).arg(g.x()).arg(g.y()).arg(g.width()).arg(g.height());
+    return QStringLiteral("%1@%2,%3,%4,%5")
+        .arg(name)
+        .arg(g.x())
+        .arg(g.y())
+        .arg(g.width())
+        .arg(g.height());
 }
 
 } // namespace
 
-void tst_Diagram::labels_data()
+void tst_Diagram::diagram_data()
 {
     QTest::addColumn<QByteArray>("scenario");
     QTest::addColumn<QStringList>("expected");
 
     QTest::newRow("two cameras, external, no distributor: rows, ports and both signal boxes")
         << world(TwoCameras, ExternalPrefs)
-        << QStringList{"eTriggerLabel@430,0,120,40", "syncLabel@560,0,120,40",
-                       "side0@50,90,100,80", "side1@50,225,100,80", "back0@150,90,100,80",
-                       "port0-0@250,90,130,30", "port0-1@250,120,130,30", "port0-2!",
-                       "port0-0:SYNC IN|ON CAM POS", "port1-1:TRIG TTL IN|TRIG POS",
-                       "masterLabel!", "nrackPanel!", "@minHeight=390"};
+        << QStringList { "eTriggerLabel@430,0,120,40", "syncLabel@560,0,120,40",
+               "side0@50,90,100,80", "side1@50,225,100,80", "back0@150,90,100,80",
+               "port0-0@250,90,130,30", "port0-1@250,120,130,30", "port0-2!",
+               "port0-0:SYNC IN|ON CAM POS", "port1-1:TRIG TTL IN|TRIG POS", "masterLabel!",
+               "nrackPanel!", "@minHeight=390",
+               // Green and red buses at the centre of their boxes, arrows stopping at
+               // the ports' right edge (x 380).
+               "490,60=green", "490,200=green", "382,135=green", "382,270=green", "620,60=red",
+               "620,105=red", "382,105=red", "382,240=red" };
     QTest::newRow("chain: master badge, OFF on its input, no sync box")
         << world(TwoCameras, ChainPrefs)
-        << QStringList{"syncLabel!", "masterLabel@50,90,50,40", "port0-0:SYNC IN|OFF",
-                       "port0-2:GENERAL OUT1|SYNC POS", "port1-0:SYNC IN|ON CAM POS"};
+        << QStringList { "syncLabel!", "masterLabel@50,90,50,40", "port0-0:SYNC IN|OFF",
+               "port0-2:GENERAL OUT1|SYNC POS", "port1-0:SYNC IN|ON CAM POS",
+               // A red loop from each output to the next input, turning at 430.
+               "430,180=red", "400,165=red", "400,240=red", "382,270=green" };
     QTest::newRow("chain of mixed types: family 2 stays ON CAM POS, others ON OTHERS POS")
         << world(MixedTypes, ChainPrefs)
-        << QStringList{"port1-0:SYNC IN|ON CAM POS", "port1-2:SYNC OUT|SYNC POS",
-                       "port2-0:INPUT1|ON OTHERS POS"};
-    QTest::newRow("N-Rack: panel with three pictures, no back or port labels")
+        << QStringList { "port1-0:SYNC IN|ON CAM POS", "port1-2:SYNC OUT|SYNC POS",
+               "port2-0:INPUT1|ON OTHERS POS" };
+    QTest::newRow("N-Rack: panel with three pictures, no back or port labels, blue bus at 290")
         << world(TwoCameras, ExternalPrefs + QStringLiteral(", \"sync/nrack\": 1"))
-        << QStringList{"nrackPanel@430,90,220,340", "syncLabel@560,0,120,40", "back0!",
-                       "port0-0!"};
+        << QStringList { "nrackPanel@430,90,220,340", "syncLabel@560,0,120,40", "back0!",
+               "port0-0!", "290,200=blue", "152,130=blue", "152,265=blue", "400,260=blue",
+               "490,70=green", "620,70=red" };
     QTest::newRow("Link Core with a syncing hub: no sync box even when external")
         << world(TwoCameras, ExternalPrefs + QStringLiteral(", \"sync/nrack\": 2"), SyncingHub)
-        << QStringList{"nrackPanel@430,90,220,340", "syncLabel!", "side0#1", "eTriggerLabel#1"};
+        << QStringList { "nrackPanel@430,90,220,340", "syncLabel!", "side0#1", "eTriggerLabel#1" };
 }
 
-void tst_Diagram::labels()
+void tst_Diagram::diagram()
 {
     QFETCH(QByteArray, scenario);
     QFETCH(QStringList, expected);
     QStringList seen;
     QCOMPARE(runSyncDialog(scenario,
-                           [&](QDialog* dialog) {
-                               QWidget* diagram = diagramOf(dialog);
-                               QVERIFY(diagram);
-                               for (const QString& query : expected)
-                                   seen.append(describe(diagram, query));
-                           }),
-             0);
+                 [&](QDialog* dialog) {
+                     QWidget* diagram = diagramOf(dialog);
+                     QVERIFY(diagram);
+                     for (const QString& query : expected)
+                         seen.append(describe(diagram, query));
+                 }),
+        0);
     QCOMPARE(seen, expected);
-}
-
-void tst_Diagram::wiresReachTheirLabels_data()
-{
-    QTest::addColumn<QByteArray>("scenario");
-    // "x,y=colour": a pixel of the rendered diagram.
-    QTest::addColumn<QStringList>("pixels");
-
-    // Arrow tips stop at a label's right edge (x 380 for ports, 150 for side pictures); the
-    // buses run at the centre of their boxes.
-    QTest::newRow("external: green and red buses, arrows into both ports")
-        << world(TwoCameras, ExternalPrefs)
-        << QStringList{"490,60=green", "490,200=green", "382,135=green", "382,270=green",
-                       "620,60=red", "620,105=red", "382,105=red", "382,240=red"};
-    QTest::newRow("chain: red loop from each output to the next input, turning at 430")
-        << world(TwoCameras, ChainPrefs)
-        << QStringList{"430,180=red", "400,165=red", "400,240=red", "382,270=green"};
-    QTest::newRow("N-Rack: blue bus at 290, arrows into the side pictures")
-        << world(TwoCameras, ExternalPrefs + QStringLiteral(", \"sync/nrack\": 1"))
-        << QStringList{"290,200=blue", "152,130=blue", "152,265=blue", "400,260=blue",
-                       "490,70=green", "620,70=red"};
-}
-
-void tst_Diagram::wiresReachTheirLabels()
-{
-    QFETCH(QByteArray, scenario);
-    QFETCH(QStringList, pixels);
-    QStringList seen;
-    QStringList expected;
-    QCOMPARE(runSyncDialog(scenario,
-                           [&](QDialog* dialog) {
-                               QWidget* diagram = diagramOf(dialog);
-                               QVERIFY(diagram);
-                               const QImage image = diagram->grab().toImage();
-                               for (const QString& row : pixels) {
-                                   const QStringList xy = row.section('=', 0, 0).split(',');
-                                   const QColor c = image.pixelColor(xy.at(0).toInt(), xy.at(1).toInt());
-                                   QString colour = QStringLiteral("other");
-                                   if (c == QColor(Qt::green))
-                                       colour = QStringLiteral("green");
-                                   else if (c == QColor(Qt::red))
-                                       colour = QStringLiteral("red");
-                                   else if (c == QColor(Qt::blue))
-                                       colour = QStringLiteral("blue");
-                                   seen.append(row.section('=', 0, 0) + '=' + colour);
-                               }
-                           }),
-             0);
-    QCOMPARE(seen, pixels);
 }
 
 QTEST_MAIN(tst_Diagram)
