@@ -20,10 +20,7 @@ private slots:
     void hostFailureIsReported();
     void preferenceSetterTracing_data();
     void preferenceSetterTracing();
-    void translateWithArgumentTranslatesBoth();
-    void confirmPassesNoOptions();
     void loadOfUnknownResourceWarns();
-    void logAndDebugLogLeaveNoLine();
 
 private:
     QList<QJsonObject> events(const QString& call) const { return m_recorder->events(call); }
@@ -128,6 +125,7 @@ void tst_Mediator::hostFailureIsReported()
     }
 }
 
+// A page that writes while it updates asks for no update, or it would update itself forever.
 void tst_Mediator::preferenceSetterTracing_data()
 {
     QTest::addColumn<bool>("explicitUpdate");
@@ -155,20 +153,6 @@ void tst_Mediator::preferenceSetterTracing()
             lines.filter(QStringLiteral("[ENTER]")).first().contains("JS_Mediator::setPrefString"));
 }
 
-void tst_Mediator::translateWithArgumentTranslatesBoth()
-{
-    QCOMPARE(m_mediator->translate(QStringLiteral("Open %1"), QStringLiteral("file")),
-        QStringLiteral("T(Open T(file))"));
-}
-
-void tst_Mediator::confirmPassesNoOptions()
-{
-    QVERIFY(m_mediator->confirm(QStringLiteral("Go?")));
-    const auto asked = events(QStringLiteral("confirm"));
-    QCOMPARE(asked.size(), 1);
-    QCOMPARE(asked.first().value(QStringLiteral("options")).toInt(), 0);
-}
-
 void tst_Mediator::loadOfUnknownResourceWarns()
 {
     QCOMPARE(m_mediator->load(QStringLiteral("no/such.js")), QString());
@@ -178,17 +162,6 @@ void tst_Mediator::loadOfUnknownResourceWarns()
             && event.value(QStringLiteral("text")).toString().contains("not found");
     QVERIFY(warned);
     QVERIFY(m_mediator->load(QStringLiteral("const_pref.js")).contains("sync/generator/address"));
-}
-
-void tst_Mediator::logAndDebugLogLeaveNoLine()
-{
-    m_mediator->log(QStringLiteral("quiet one"));
-    m_mediator->debugLog(QStringLiteral("quiet two"));
-    m_mediator->infoLog(QStringLiteral("loud info"));
-    m_mediator->errorLog(QStringLiteral("loud error"));
-    const QStringList lines = logLines();
-    QCOMPARE(lines.filter(QStringLiteral("quiet")).size(), 0);
-    QCOMPARE(lines.filter(QStringLiteral("loud")).size(), 2);
 }
 
 QTEST_MAIN(tst_Mediator)
