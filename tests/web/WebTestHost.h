@@ -57,11 +57,6 @@ public:
             { { QStringLiteral("text"), text }, { QStringLiteral("options"), options.size() } });
         return true;
     }
-    void showPage(const QString& name) override
-    {
-        failIf("showPage");
-        recorder()->record(QStringLiteral("showPage"), { { QStringLiteral("name"), name } });
-    }
 
 private:
     void failIf(const char* operation)

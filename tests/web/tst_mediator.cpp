@@ -18,8 +18,6 @@ private slots:
     void cleanup();
     void hostFailureIsReported_data();
     void hostFailureIsReported();
-    void preferenceSetterTracing_data();
-    void preferenceSetterTracing();
     void loadOfUnknownResourceWarns();
 
 private:
@@ -75,17 +73,9 @@ void tst_Mediator::hostFailureIsReported_data()
     QTest::newRow("confirm gives false")
         << "confirm" << Call([](JS_Mediator* m) { return QVariant(m->confirm("?")); })
         << QVariant(false) << 0;
-    // Guarded operations still end with their update.
-    QTest::newRow("setStyle still updates") << "setPrefString" << Call([](JS_Mediator* m) {
-        m->setStyle(QStringLiteral("dark"));
-        return QVariant();
-    }) << QVariant() << 1;
-    QTest::newRow("openPlugin still updates") << "showPage" << Call([](JS_Mediator* m) {
-        m->openPlugin(QStringLiteral("lut"));
-        return QVariant();
-    }) << QVariant() << 1;
-    QTest::newRow("setPrefInt still updates") << "setPrefInt" << Call([](JS_Mediator* m) {
-        m->setPrefInt(QStringLiteral("a/b"), 3);
+    // A guarded setter still ends with its update.
+    QTest::newRow("setPrefString still updates") << "setPrefString" << Call([](JS_Mediator* m) {
+        m->setPrefString(QStringLiteral("sync/generator/address"), QStringLiteral("1.2.3.4"));
         return QVariant();
     }) << QVariant() << 1;
 }
@@ -123,34 +113,6 @@ void tst_Mediator::hostFailureIsReported()
         }
         QVERIFY(updateAt < leaveAt);
     }
-}
-
-// A page that writes while it updates asks for no update, or it would update itself forever.
-void tst_Mediator::preferenceSetterTracing_data()
-{
-    QTest::addColumn<bool>("explicitUpdate");
-    QTest::addColumn<bool>("update");
-    QTest::newRow("default is traced and updates") << false << true;
-    QTest::newRow("update false writes silently") << true << false;
-}
-
-void tst_Mediator::preferenceSetterTracing()
-{
-    QFETCH(bool, explicitUpdate);
-    QFETCH(bool, update);
-    if (explicitUpdate)
-        m_mediator->setPrefString(QStringLiteral("sync/generator/address"), "1.2.3.4", update);
-    else
-        m_mediator->setPrefString(QStringLiteral("sync/generator/address"), "1.2.3.4");
-    QCOMPARE(m_mediator->getPrefString(QStringLiteral("sync/generator/address")),
-        QStringLiteral("1.2.3.4"));
-    QCOMPARE(events(QStringLiteral("updateUI")).size(), update ? 1 : 0);
-    const QStringList lines = logLines();
-    QCOMPARE(lines.filter(QStringLiteral("[ENTER]")).size(), update ? 1 : 0);
-    QCOMPARE(lines.filter(QStringLiteral("[LEAVE]")).size(), update ? 1 : 0);
-    if (update)
-        QVERIFY(
-            lines.filter(QStringLiteral("[ENTER]")).first().contains("JS_Mediator::setPrefString"));
 }
 
 void tst_Mediator::loadOfUnknownResourceWarns()
