@@ -58,6 +58,7 @@ double openOnce(HST_Host* host, DOC_VIGen* driver, double* callMicros)
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    std::printf("build type: %s\n", SYNC_BENCH_BUILD_TYPE);
     QTemporaryDir dir;
     HST_Recorder recorder;
     HST_Host host(HST_Scenario(), &recorder, dir.filePath(QStringLiteral("prefs.ini")));

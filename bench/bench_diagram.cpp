@@ -73,6 +73,7 @@ int main(int argc, char* argv[])
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    std::printf("build type: %s\n", SYNC_BENCH_BUILD_TYPE);
     // The trace lines of every run would drown the figures.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     std::map<int, double> medians;

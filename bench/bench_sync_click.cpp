@@ -92,6 +92,7 @@ int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
     QApplication app(argc, argv);
+    std::printf("build type: %s\n", SYNC_BENCH_BUILD_TYPE);
     // The lines of every run would drown the figures.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     bool ok = true;
