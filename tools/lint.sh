@@ -6,17 +6,21 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="${1:-$root/build}"
 cd "$root"
-folders=(plugin sync generator web util dialogs save host visa instrument)
-existing=()
-for f in "${folders[@]}"; do [ -d "$f" ] && existing+=("$f"); done
+folders=(plugin sync generator web util host visa instrument)
+for f in "${folders[@]}"; do
+    if [ ! -d "$f" ]; then
+        echo "lint: $f/ is listed but does not exist" >&2
+        exit 1
+    fi
+done
 
 echo "== cppcheck =="
 cppcheck --quiet --error-exitcode=1 --enable=warning,performance,portability --inline-suppr \
     --std=c++17 --language=c++ -I . --suppress=missingIncludeSystem --suppress=unknownMacro \
-    "${existing[@]}"
+    "${folders[@]}"
 
 echo "== clang-tidy =="
-mapfile -t sources < <(git ls-files "${existing[@]}" | grep -E '\.cpp$')
+mapfile -t sources < <(git ls-files "${folders[@]}" | grep -E '\.cpp$')
 out="$build/clang-tidy.log"
 printf '%s\n' "${sources[@]}" \
     | xargs -P "$(nproc)" -n 4 clang-tidy -p "$build" --quiet > "$out" 2>/dev/null || true
