@@ -6,8 +6,8 @@
 #include "host/HST_LinkCoreHub.h"
 #include "host/HST_Preferences.h"
 #include "host/HST_Recorder.h"
+#include "plugin/APP_MediatorObject.h"
 #include "util/APP_Exception.h"
-#include "web/JS_Mediator.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -217,7 +217,7 @@ QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessag
 
 void HST_Host::attachMediator(QWebView* view, JS_Mediator* mediator)
 {
-    QObject* object = mediator;
+    QObject* object = APP_mediatorObject(mediator);
     if (!view || !object)
         return;
     // Through the meta object: the mediator's code lives in the plug-in, which the host
