@@ -39,38 +39,38 @@ const QString failedSync = QStringLiteral("Failed sync to signal generator.");
 const QString complete = QStringLiteral("Synchronization is complete.");
 
 // The preferences a sync stores; none may be written unless it succeeded.
-const QStringList syncKeys{"sync/nrack", "sync/external", "sync/generator/ctrl",
-                           "sync/generator/frequency", "sync/generator/input",
-                           "sync/triggerSignalPolarity", "sync/masterCamera"};
+const QStringList syncKeys { "sync/nrack", "sync/external", "sync/generator/ctrl",
+    "sync/generator/frequency", "sync/generator/input", "sync/triggerSignalPolarity",
+    "sync/masterCamera" };
 
 QJsonObject click(const QString& target)
 {
-    return {{QStringLiteral("click"), target}};
+    return { { QStringLiteral("click"), target } };
 }
 
 // Types the address and presses OK in the connect dialog's page; gives the page's clock before
 // and after, so the test sees how long the user waited on the button.
 QJsonObject connectTo(const QString& address)
 {
-    return {{QStringLiteral("js"),
-             QStringLiteral("var t0 = Date.now(); $('#signal_generator_address_textbox').val('%1');"
-                            " $('#signal_generator_ok').click(); [t0, Date.now()]")
-                 .arg(address)}};
+    return { { QStringLiteral("js"),
+        QStringLiteral("var t0 = Date.now(); $('#signal_generator_address_textbox').val('%1');"
+                       " $('#signal_generator_ok').click(); [t0, Date.now()]")
+            .arg(address) } };
 }
 
 // Opens the connect dialog from the sync dialog and waits for its page.
 QJsonArray openConnectDialog()
 {
-    return {click(QStringLiteral("connect_signal_generator_button")),
-            QJsonObject{{QStringLiteral("wait"), 1500}}};
+    return { click(QStringLiteral("connect_signal_generator_button")),
+        QJsonObject { { QStringLiteral("wait"), 1500 } } };
 }
 
 QJsonArray syncWithGenerator()
 {
-    return {QJsonObject{{QStringLiteral("set"),
-                         QJsonArray{QStringLiteral("signal_generator_control_checkBox"), true}}},
-            click(QStringLiteral("Sync execute")), click(QStringLiteral("OK")),
-            click(QStringLiteral("OK"))};
+    return { QJsonObject { { QStringLiteral("set"),
+                 QJsonArray { QStringLiteral("signal_generator_control_checkBox"), true } } },
+        click(QStringLiteral("Sync execute")), click(QStringLiteral("OK")),
+        click(QStringLiteral("OK")) };
 }
 
 QJsonArray operator+(QJsonArray a, const QJsonArray& b)
@@ -136,8 +136,8 @@ struct Run
         QList<QPair<QString, QString>> result;
         for (const QJsonObject& e : events) {
             if (e.value(QStringLiteral("call")) == QLatin1String("message"))
-                result.append({e.value(QStringLiteral("kind")).toString(),
-                               e.value(QStringLiteral("text")).toString()});
+                result.append({ e.value(QStringLiteral("kind")).toString(),
+                    e.value(QStringLiteral("text")).toString() });
         }
         return result;
     }
@@ -182,9 +182,8 @@ struct Run
     }
     int count(const QString& call) const
     {
-        return int(std::count_if(events.begin(), events.end(), [&call](const QJsonObject& e) {
-            return e.value(QStringLiteral("call")) == call;
-        }));
+        return int(std::count_if(events.begin(), events.end(),
+            [&call](const QJsonObject& e) { return e.value(QStringLiteral("call")) == call; }));
     }
 };
 
@@ -204,8 +203,8 @@ private slots:
 
 private:
     QByteArray scenario(const QJsonObject& generator) const;
-    Run run(const QByteArray& world, const QJsonArray& steps,
-            const std::function<void()>& tick = {});
+    Run run(
+        const QByteArray& world, const QJsonArray& steps, const std::function<void()>& tick = {});
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
@@ -229,27 +228,27 @@ QByteArray tst_InstrumentFaults::scenario(const QJsonObject& generator) const
     options.insert(QStringLiteral("listen"), QStringLiteral("127.0.0.1"));
     options.insert(QStringLiteral("portmapperPort"), portmapperPort);
     options.insert(QStringLiteral("log"), m_dir->filePath(QStringLiteral("first.log")));
-    const QJsonObject world{
-        {"syncCapableTypes", QJsonArray{1}},
-        {"cameras", QJsonArray{QJsonObject{{"ip", "10.0.0.1"}}, QJsonObject{{"ip", "10.0.0.2"}}}},
-        {"generator", options},
-        {"prefs", QJsonObject{{"sync/generator/address", "127.0.0.1"},
-                              {"sync/generator/tryconnect", true},
-                              {"sync/generator/ctrl", true},
-                              {"sync/external", true},
-                              {"sync/generator/frequency", 3000}}}};
+    const QJsonObject world { { "syncCapableTypes", QJsonArray { 1 } },
+        { "cameras",
+            QJsonArray {
+                QJsonObject { { "ip", "10.0.0.1" } }, QJsonObject { { "ip", "10.0.0.2" } } } },
+        { "generator", options },
+        { "prefs",
+            QJsonObject { { "sync/generator/address", "127.0.0.1" },
+                { "sync/generator/tryconnect", true }, { "sync/generator/ctrl", true },
+                { "sync/external", true }, { "sync/generator/frequency", 3000 } } } };
     return QJsonDocument(world).toJson();
 }
 
-Run tst_InstrumentFaults::run(const QByteArray& world, const QJsonArray& steps,
-                              const std::function<void()>& tick)
+Run tst_InstrumentFaults::run(
+    const QByteArray& world, const QJsonArray& steps, const std::function<void()>& tick)
 {
     HST_Options options;
     options.scenarioJson = world;
     options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
     options.prefsFile = m_dir->filePath(QStringLiteral("prefs.ini"));
     options.press = QStringLiteral("synccontrol");
-    options.steps = steps + QJsonArray{click(QStringLiteral("Sync quit"))};
+    options.steps = steps + QJsonArray { click(QStringLiteral("Sync quit")) };
     options.quit = true;
     options.stepTimeoutMs = 15000;
     Run result;
@@ -284,17 +283,17 @@ void tst_InstrumentFaults::faultAtConnect_data()
     QTest::addColumn<QString>("warning");
 
     QTest::newRow("silent at the portmapper")
-        << QJsonObject{{"silentAt", "portmapper"}} << couldNotConnect;
+        << QJsonObject { { "silentAt", "portmapper" } } << couldNotConnect;
     QTest::newRow("silent at create_link")
-        << QJsonObject{{"silentAt", "create_link"}} << couldNotConnect;
+        << QJsonObject { { "silentAt", "create_link" } } << couldNotConnect;
     QTest::newRow("silent at device_read")
-        << QJsonObject{{"silentAt", "device_read"}} << couldNotConnect;
+        << QJsonObject { { "silentAt", "device_read" } } << couldNotConnect;
     QTest::newRow("slow past the time-out")
-        << QJsonObject{{"delayMs", 3 * visaTimeoutMs}} << couldNotConnect;
+        << QJsonObject { { "delayMs", 3 * visaTimeoutMs } } << couldNotConnect;
     QTest::newRow("connection dropped mid-reply")
-        << QJsonObject{{"dropMidReply", true}} << couldNotConnect;
-    QTest::newRow("garbage reply") << QJsonObject{{"garbage", true}} << couldNotConnect;
-    QTest::newRow("another model") << QJsonObject{{"model", "33220A"}} << unsupported;
+        << QJsonObject { { "dropMidReply", true } } << couldNotConnect;
+    QTest::newRow("garbage reply") << QJsonObject { { "garbage", true } } << couldNotConnect;
+    QTest::newRow("another model") << QJsonObject { { "model", "33220A" } } << unsupported;
 }
 
 void tst_InstrumentFaults::faultAtConnect()
@@ -305,34 +304,34 @@ void tst_InstrumentFaults::faultAtConnect()
     const QString soundLog = m_dir->filePath(QStringLiteral("sound.log"));
     HST_GeneratorSimulator sound;
     QString problem;
-    QVERIFY2(sound.start({{"listen", "127.0.0.2"}, {"portmapperPort", portmapperPort},
-                          {"log", soundLog}},
-                         problem),
-             qPrintable(problem));
+    QVERIFY2(sound.start({ { "listen", "127.0.0.2" }, { "portmapperPort", portmapperPort },
+                             { "log", soundLog } },
+                 problem),
+        qPrintable(problem));
 
     const Run r = run(scenario(fault),
-                      openConnectDialog()
-                          + QJsonArray{connectTo(QStringLiteral("127.0.0.1")),
-                                       click(QStringLiteral("OK")),
-                                       connectTo(QStringLiteral("127.0.0.2"))}
-                          + syncWithGenerator()
-                          // A slow instrument creates the link of a request given up long ago
-                          // and only then sees the connection gone: let it see that.
-                          + QJsonArray{QJsonObject{{"wait", fault.value("delayMs").toInt()}}});
+        openConnectDialog()
+            + QJsonArray { connectTo(QStringLiteral("127.0.0.1")), click(QStringLiteral("OK")),
+                connectTo(QStringLiteral("127.0.0.2")) }
+            + syncWithGenerator()
+            // A slow instrument creates the link of a request given up long ago
+            // and only then sees the connection gone: let it see that.
+            + QJsonArray { QJsonObject { { "wait", fault.value("delayMs").toInt() } } });
     const QList<qint64> presses = r.pressMs();
     qInfo("opening %lld ms, refused connect %lld ms, accepted connect %lld ms, whole run %lld ms",
-          r.dialogShownMs, presses.value(0, -1), presses.value(1, -1), r.totalMs);
+        r.dialogShownMs, presses.value(0, -1), presses.value(1, -1), r.totalMs);
     QCOMPARE(r.code, 0);
 
     // The reconnect on opening fails without a word; the user's attempt gets one warning.
-    QCOMPARE(r.texts(QStringLiteral("warning")), QStringList{warning});
+    QCOMPARE(r.texts(QStringLiteral("warning")), QStringList { warning });
     QVERIFY(r.texts(QStringLiteral("error")).isEmpty());
-    QVERIFY2(r.dialogShownMs < connectWorstMs + slack, "the reconnect on opening outlasted its chain");
+    QVERIFY2(
+        r.dialogShownMs < connectWorstMs + slack, "the reconnect on opening outlasted its chain");
     QCOMPARE(presses.size(), 2);
     QVERIFY2(presses[0] < connectWorstMs + slack, "the refused connect outlasted its chain");
 
     // The later connect worked: the sync went through the sound instrument, stored afterwards.
-    QCOMPARE(r.texts(QStringLiteral("information")), QStringList{complete});
+    QCOMPARE(r.texts(QStringLiteral("information")), QStringList { complete });
     const int success = r.indexOf(QStringLiteral("message"), QStringLiteral("text"), complete);
     QVERIFY(r.firstSyncPref() > success);
     QCOMPARE(r.count(QStringLiteral("applySync")), 1);
@@ -360,11 +359,11 @@ void tst_InstrumentFaults::lostDuringSetup()
     const QString firstLog = m_dir->filePath(QStringLiteral("first.log"));
     const QString restartedLog = m_dir->filePath(QStringLiteral("restarted.log"));
     // Slow enough that the sequence is still running when the watcher strikes.
-    const QJsonObject slowish{{"delayMs", 100}};
+    const QJsonObject slowish { { "delayMs", 100 } };
 
-    std::atomic<pid_t> victim{0};
-    std::atomic<qint64> struckAtMs{-1};
-    std::atomic<bool> stop{false};
+    std::atomic<pid_t> victim { 0 };
+    std::atomic<qint64> struckAtMs { -1 };
+    std::atomic<bool> stop { false };
     QElapsedTimer clock;
     clock.start();
     // On a thread of its own: the setup runs on the GUI thread, which is blocked meanwhile.
@@ -393,31 +392,31 @@ void tst_InstrumentFaults::lostDuringSetup()
         toldAtMs = clock.elapsed();
         if (signal == SIGSTOP) {
             ::kill(victim, SIGCONT);
-        } else if (!restarted.start({{"listen", "127.0.0.1"}, {"portmapperPort", portmapperPort},
-                                     {"log", restartedLog}},
-                                    problem)) {
+        } else if (!restarted.start(
+                       { { "listen", "127.0.0.1" }, { "portmapperPort", portmapperPort },
+                           { "log", restartedLog } },
+                       problem)) {
             qWarning("restart: %s", qPrintable(problem));
         }
     };
     const Run r = run(scenario(slowish),
-                      syncWithGenerator() + openConnectDialog()
-                          + QJsonArray{connectTo(QStringLiteral("127.0.0.1"))}
-                          + syncWithGenerator(),
-                      tick);
+        syncWithGenerator() + openConnectDialog()
+            + QJsonArray { connectTo(QStringLiteral("127.0.0.1")) } + syncWithGenerator(),
+        tick);
     stop = true;
     striker.join();
     if (signal == SIGSTOP && victim > 0)
         ::kill(victim, SIGCONT);
     qInfo("struck at %lld ms, told at %lld ms, reconnect %lld ms, whole run %lld ms",
-          qint64(struckAtMs), toldAtMs, r.pressMs().value(0, -1), r.totalMs);
+        qint64(struckAtMs), toldAtMs, r.pressMs().value(0, -1), r.totalMs);
     QCOMPARE(r.code, 0);
     QVERIFY2(struckAtMs >= 0, "the setup sequence never reached the instrument");
 
     // Told by the error box, within a write's time-out (twice, after an unread query).
-    QCOMPARE(r.texts(QStringLiteral("error")), QStringList{failedSync});
+    QCOMPARE(r.texts(QStringLiteral("error")), QStringList { failedSync });
     QVERIFY(toldAtMs >= 0);
     QVERIFY2(toldAtMs - struckAtMs < 2 * (visaTimeoutMs + 250) + slack,
-             "the failed setup outlasted its time-out");
+        "the failed setup outlasted its time-out");
     QVERIFY(r.texts(QStringLiteral("warning")).isEmpty());
 
     // Nothing stored nor synced for the failed request; the second one went through.
@@ -427,12 +426,13 @@ void tst_InstrumentFaults::lostDuringSetup()
     QVERIFY(r.firstSyncPref() > success);
     QCOMPARE(r.count(QStringLiteral("applySync")), 1);
     QVERIFY(r.indexOf(QStringLiteral("applySync"), QStringLiteral("result"), QStringLiteral("ok"))
-            > failed);
+        > failed);
 
     const QString liveLog = signal == SIGKILL ? restartedLog : firstLog;
     const QStringList setup = readLines(liveLog);
-    QVERIFY2(setup.lastIndexOf(QStringLiteral("OUTP ON")) > setup.lastIndexOf(QStringLiteral("*RST")),
-             qPrintable(setup.join('|')));
+    QVERIFY2(
+        setup.lastIndexOf(QStringLiteral("OUTP ON")) > setup.lastIndexOf(QStringLiteral("*RST")),
+        qPrintable(setup.join('|')));
     QCOMPARE(openLinks(liveLog), QStringList());
 }
 
