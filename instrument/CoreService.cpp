@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <thread>
 #include <vector>
 
@@ -58,6 +59,18 @@ void CoreService::pause(uint32_t ms)
     const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
     while (!m_stopping && std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(std::chrono::milliseconds(std::min<uint32_t>(ms, 20)));
+}
+
+void CoreService::strikeIfDue(const std::string& message)
+{
+    const auto holds = [&message](const std::string& text) {
+        return !text.empty() && message.find(text) != std::string::npos;
+    };
+    const bool freeze = holds(m_options.freezeOn);
+    // To this thread: it stops (or dies) before it answers, and the whole process with it. Sent
+    // to the process, the signal may go to another thread, and this one answer on meanwhile.
+    if ((freeze || holds(m_options.dieOn)) && !m_struck.exchange(true))
+        std::raise(freeze ? SIGSTOP : SIGKILL);
 }
 
 void CoreService::logLink(uint32_t linkId, const char* what)
@@ -179,6 +192,7 @@ RpcHandler::Action CoreService::deviceWrite(const uint8_t* args, size_t size)
         // A new message ends any reply that was never read, as on the instrument.
         it->second.output.clear();
     }
+    strikeIfDue(message);
     const std::string replies = m_instrument.execute(message);
     std::lock_guard<std::mutex> lock(m_mutex);
     const auto it = m_links.find(parms.linkId);

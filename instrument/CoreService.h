@@ -38,6 +38,8 @@ private:
     RpcHandler::Action genericCall(uint32_t procedure, const uint8_t* args, size_t size);
     RpcHandler::Action destroyLink(const uint8_t* args, size_t size);
     void pause(uint32_t ms);
+    // The --freeze-on and --die-on faults, once.
+    void strikeIfDue(const std::string& message);
     // "<link N open>", "<link N closed>" (destroy_link), "<link N lost>" (connection closed).
     void logLink(uint32_t linkId, const char* what);
 
@@ -47,4 +49,5 @@ private:
     std::map<uint32_t, Link> m_links;
     uint32_t m_nextLinkId = 1;
     std::atomic<bool> m_stopping { false };
+    std::atomic<bool> m_struck { false };
 };

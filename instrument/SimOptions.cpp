@@ -31,7 +31,11 @@ const char* SimOptions::usage()
            "  --garbage               answer device_read with a malformed RPC reply\n"
            "  --max-links N           refuse create_link beyond N open links (16)\n"
            "  --max-recv-size N       maxRecvSize announced by create_link (4096)\n"
-           "  --tcp-nodelay           turn Nagle's algorithm off on TCP connections\n";
+           "  --tcp-nodelay           turn Nagle's algorithm off on TCP connections\n"
+           "  --freeze-on TEXT        stop the process (SIGSTOP) at the first message holding "
+           "TEXT\n"
+           "  --die-on TEXT           kill the process (SIGKILL) at the first message holding "
+           "TEXT\n";
 }
 
 bool SimOptions::parse(int argc, char** argv, std::string& error)
@@ -79,6 +83,10 @@ bool SimOptions::parse(int argc, char** argv, std::string& error)
             maker = value;
         } else if (flag == "--serial") {
             serial = value;
+        } else if (flag == "--freeze-on" && *value) {
+            freezeOn = value;
+        } else if (flag == "--die-on" && *value) {
+            dieOn = value;
         } else if (flag == "--delay-ms" && toNumber(value, 600000, number)) {
             delayMs = number;
         } else if (flag == "--max-links" && toNumber(value, 1000000, number)) {

@@ -23,6 +23,10 @@ struct SimOptions
     uint32_t maxLinks = 16;
     uint32_t maxRecvSize = 4096;
     bool tcpNoDelay = false;
+    // The first message holding this text stops the whole process (SIGSTOP) or ends it
+    // (SIGKILL) before it is executed or answered: a fault at a known point of a sequence.
+    std::string freezeOn;
+    std::string dieOn;
 
     // false with a message for a bad command line.
     bool parse(int argc, char** argv, std::string& error);
