@@ -1,7 +1,9 @@
 // Instrument faults end to end: the real plug-in file in the reference host, our VISA library and
-// the simulated instrument, inside a private network namespace. Every fault must end within the
-// chained time-outs, be told where the user looks, store nothing for a sync that did not happen,
-// leave no link open on the instrument, and let a later connect work in the same host.
+// the simulated instrument, inside a private network namespace. Every fault must be told where
+// the user looks, store nothing for a sync that did not happen, leave no link open on the
+// instrument, and let a later connect work in the same host. Nothing here waits for the clock:
+// the simulators strike at a command and the presses wait for the page; the times the user
+// waited are printed, not asserted.
 #include "../NetNamespace.h"
 
 #include "host/HST_Application.h"
@@ -9,29 +11,27 @@
 #include "host/HST_Recorder.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QMessageBox>
+#include <QPointer>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWebFrame>
+#include <QWebView>
 #include <QtTest>
 
-#include <atomic>
 #include <csignal>
-#include <thread>
 
 namespace {
 
-// Short, so that the suite stays quick; every bound below scales with it.
+// Short, so that the faulty cases stay quick; a sound instrument answers in well under 1 ms.
 constexpr int visaTimeoutMs = 500;
-// The chained worst case of one connect test with this time-out: closing the old session (1 s),
-// the open (T), the live test and the identification (2 x (T + 250 ms) each).
-constexpr qint64 connectWorstMs = 1000 + visaTimeoutMs + 4 * (visaTimeoutMs + 250);
-// Far above any chain, far below the step time-out: a hang shows as a failure, not a pass.
-constexpr qint64 slack = 3000;
 constexpr quint16 portmapperPort = 5111;
+// The simulators strike here, in the middle of the setup sequence.
+const QString setupCommand = QStringLiteral("FUNC:SHAP PULS");
 
 const QString couldNotConnect = QStringLiteral("Could not connect with signal generator");
 const QString unsupported = QStringLiteral("can not be connected because unsupported device.");
@@ -46,23 +46,6 @@ const QStringList syncKeys { "sync/nrack", "sync/external", "sync/generator/ctrl
 QJsonObject click(const QString& target)
 {
     return { { QStringLiteral("click"), target } };
-}
-
-// Types the address and presses OK in the connect dialog's page; gives the page's clock before
-// and after, so the test sees how long the user waited on the button.
-QJsonObject connectTo(const QString& address)
-{
-    return { { QStringLiteral("js"),
-        QStringLiteral("var t0 = Date.now(); $('#signal_generator_address_textbox').val('%1');"
-                       " $('#signal_generator_ok').click(); [t0, Date.now()]")
-            .arg(address) } };
-}
-
-// Opens the connect dialog from the sync dialog and waits for its page.
-QJsonArray openConnectDialog()
-{
-    return { click(QStringLiteral("connect_signal_generator_button")),
-        QJsonObject { { QStringLiteral("wait"), 1500 } } };
 }
 
 QJsonArray syncWithGenerator()
@@ -105,24 +88,31 @@ QStringList openLinks(const QString& log)
     return open;
 }
 
-// The pid of the simulator whose command line has exactly this log: only ours has it.
-pid_t simulatorWithLog(const QString& log)
+// A simulator of the test's own, so that it outlives the host's run (a slow one may see a
+// connection given up long ago only after the host has gone) and can be given faults the
+// scenario can't pass. Killed with the test.
+struct Simulator
 {
-    for (const QString& entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
-        bool numeric = false;
-        const int pid = entry.toInt(&numeric);
-        if (!numeric)
-            continue;
-        QFile cmdline(QStringLiteral("/proc/%1/cmdline").arg(pid));
-        if (!cmdline.open(QIODevice::ReadOnly))
-            continue;
-        const QList<QByteArray> args = cmdline.readAll().split('\0');
-        const int at = args.indexOf(QByteArray("--log"));
-        if (at >= 0 && args.value(at + 1) == log.toUtf8())
-            return pid_t(pid);
+    QProcess process;
+
+    ~Simulator()
+    {
+        process.kill();
+        process.waitForFinished();
     }
-    return 0;
-}
+
+    bool start(const QJsonObject& options, const QStringList& extra = {})
+    {
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(HST_GeneratorSimulator::executable(),
+            HST_GeneratorSimulator::arguments(options, portmapperPort) + extra);
+        while (process.waitForReadyRead(10000) || process.canReadLine()) {
+            if (process.canReadLine())
+                return process.readLine().startsWith("SIM33210A_READY");
+        }
+        return false;
+    }
+};
 
 struct Run
 {
@@ -130,6 +120,7 @@ struct Run
     QList<QJsonObject> events;
     qint64 totalMs = 0;
     qint64 dialogShownMs = -1; // press to the sync dialog: includes the reconnect at start
+    QList<qint64> pressMs; // each OK in the connect dialog, until it returned
 
     QList<QPair<QString, QString>> messages() const
     {
@@ -169,17 +160,6 @@ struct Run
         }
         return -1;
     }
-    // Durations the page measured around each OK press, in order.
-    QList<qint64> pressMs() const
-    {
-        QList<qint64> result;
-        for (const QJsonObject& e : events) {
-            const QJsonArray t = e.value(QStringLiteral("result")).toArray();
-            if (e.value(QStringLiteral("call")) == QLatin1String("js") && t.size() == 2)
-                result << qint64(t[1].toDouble() - t[0].toDouble());
-        }
-        return result;
-    }
     int count(const QString& call) const
     {
         return int(std::count_if(events.begin(), events.end(),
@@ -202,9 +182,9 @@ private slots:
     void lostDuringSetup();
 
 private:
-    QByteArray scenario(const QJsonObject& generator) const;
-    Run run(
-        const QByteArray& world, const QJsonArray& steps, const std::function<void()>& tick = {});
+    QByteArray scenario() const;
+    Run run(const QJsonArray& steps, const QStringList& connectTo,
+        const std::function<void()>& tick = {});
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
@@ -214,6 +194,7 @@ void tst_InstrumentFaults::initTestCase()
     if (HST_GeneratorSimulator::executable().isEmpty())
         QSKIP("the simulator was not built");
     qputenv("SYNC_VISA_TIMEOUT_MS", QByteArray::number(visaTimeoutMs));
+    qputenv("SYNC_VXI11_PORTMAPPER_PORT", QByteArray::number(portmapperPort));
 }
 
 void tst_InstrumentFaults::init()
@@ -222,17 +203,13 @@ void tst_InstrumentFaults::init()
     m_dir.reset(new QTemporaryDir);
 }
 
-QByteArray tst_InstrumentFaults::scenario(const QJsonObject& generator) const
+QByteArray tst_InstrumentFaults::scenario() const
 {
-    QJsonObject options = generator;
-    options.insert(QStringLiteral("listen"), QStringLiteral("127.0.0.1"));
-    options.insert(QStringLiteral("portmapperPort"), portmapperPort);
-    options.insert(QStringLiteral("log"), m_dir->filePath(QStringLiteral("first.log")));
     const QJsonObject world { { "syncCapableTypes", QJsonArray { 1 } },
         { "cameras",
             QJsonArray {
                 QJsonObject { { "ip", "10.0.0.1" } }, QJsonObject { { "ip", "10.0.0.2" } } } },
-        { "generator", options },
+        { "visa", true },
         { "prefs",
             QJsonObject { { "sync/generator/address", "127.0.0.1" },
                 { "sync/generator/tryconnect", true }, { "sync/generator/ctrl", true },
@@ -240,11 +217,13 @@ QByteArray tst_InstrumentFaults::scenario(const QJsonObject& generator) const
     return QJsonDocument(world).toJson();
 }
 
+// Runs the steps; each time the connect dialog's page is up, with its own handlers in place,
+// the next address of connectTo is typed there and OK pressed.
 Run tst_InstrumentFaults::run(
-    const QByteArray& world, const QJsonArray& steps, const std::function<void()>& tick)
+    const QJsonArray& steps, const QStringList& connectTo, const std::function<void()>& tick)
 {
     HST_Options options;
-    options.scenarioJson = world;
+    options.scenarioJson = scenario();
     options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
     options.prefsFile = m_dir->filePath(QStringLiteral("prefs.ini"));
     options.press = QStringLiteral("synccontrol");
@@ -256,11 +235,42 @@ Run tst_InstrumentFaults::run(
     HST_Application application(options);
     QTimer watch;
     watch.setInterval(10);
+    int pressed = 0;
+    bool pressing = false;
     QObject::connect(&watch, &QTimer::timeout, [&] {
-        const QWidget* modal = QApplication::activeModalWidget();
+        QWidget* modal = QApplication::activeModalWidget();
         if (result.dialogShownMs < 0 && modal
             && modal->objectName() == QLatin1String("GUI_SyncControl"))
             result.dialogShownMs = clock.elapsed();
+        QWebView* view = modal ? modal->findChild<QWebView*>() : nullptr;
+        // A user presses once the dialog has faded in and the page's handlers are in place.
+        if (view && !pressing && pressed < connectTo.size() && modal->windowOpacity() >= 1.0) {
+            QWebFrame* frame = view->page()->mainFrame();
+            // The page binds OK in its ready handler, which jQuery runs some time after load.
+            const QVariant ready = frame->evaluateJavaScript(QStringLiteral(
+                "!!(window.jQuery && jQuery._data(document.getElementById('signal_generator_ok')"
+                " || {}, 'events'))"));
+            if (ready.toBool()) {
+                pressing = true;
+                const QString code
+                    = QStringLiteral("$('#signal_generator_address_textbox').val('%1');"
+                                     " $('#signal_generator_ok').click();")
+                          .arg(connectTo.at(pressed++));
+                // Posted, as a user's click comes: the press may open a box that the script
+                // answers meanwhile.
+                QMetaObject::invokeMethod(
+                    &watch,
+                    [&, frame = QPointer<QWebFrame>(frame), code] {
+                        QElapsedTimer press;
+                        press.start();
+                        if (frame)
+                            frame->evaluateJavaScript(code);
+                        result.pressMs << press.elapsed();
+                        pressing = false;
+                    },
+                    Qt::QueuedConnection);
+            }
+        }
         if (tick)
             tick();
     });
@@ -301,34 +311,27 @@ void tst_InstrumentFaults::faultAtConnect()
     QFETCH(QJsonObject, fault);
     QFETCH(QString, warning);
 
+    const QString faultyLog = m_dir->filePath(QStringLiteral("faulty.log"));
     const QString soundLog = m_dir->filePath(QStringLiteral("sound.log"));
-    HST_GeneratorSimulator sound;
-    QString problem;
-    QVERIFY2(sound.start({ { "listen", "127.0.0.2" }, { "portmapperPort", portmapperPort },
-                             { "log", soundLog } },
-                 problem),
-        qPrintable(problem));
+    QJsonObject faultyOptions = fault;
+    faultyOptions.insert(QStringLiteral("log"), faultyLog);
+    Simulator faulty;
+    Simulator sound;
+    QVERIFY(faulty.start(faultyOptions));
+    QVERIFY(sound.start({ { "listen", "127.0.0.2" }, { "log", soundLog } }));
 
-    const Run r = run(scenario(fault),
-        openConnectDialog()
-            + QJsonArray { connectTo(QStringLiteral("127.0.0.1")), click(QStringLiteral("OK")),
-                connectTo(QStringLiteral("127.0.0.2")) }
-            + syncWithGenerator()
-            // A slow instrument creates the link of a request given up long ago
-            // and only then sees the connection gone: let it see that.
-            + QJsonArray { QJsonObject { { "wait", fault.value("delayMs").toInt() } } });
-    const QList<qint64> presses = r.pressMs();
+    const Run r = run(QJsonArray { click(QStringLiteral("connect_signal_generator_button")),
+                          click(QStringLiteral("OK")) }
+            + syncWithGenerator(),
+        { QStringLiteral("127.0.0.1"), QStringLiteral("127.0.0.2") });
     qInfo("opening %lld ms, refused connect %lld ms, accepted connect %lld ms, whole run %lld ms",
-        r.dialogShownMs, presses.value(0, -1), presses.value(1, -1), r.totalMs);
+        r.dialogShownMs, r.pressMs.value(0, -1), r.pressMs.value(1, -1), r.totalMs);
     QCOMPARE(r.code, 0);
 
     // The reconnect on opening fails without a word; the user's attempt gets one warning.
     QCOMPARE(r.texts(QStringLiteral("warning")), QStringList { warning });
     QVERIFY(r.texts(QStringLiteral("error")).isEmpty());
-    QVERIFY2(
-        r.dialogShownMs < connectWorstMs + slack, "the reconnect on opening outlasted its chain");
-    QCOMPARE(presses.size(), 2);
-    QVERIFY2(presses[0] < connectWorstMs + slack, "the refused connect outlasted its chain");
+    QCOMPARE(r.pressMs.size(), 2);
 
     // The later connect worked: the sync went through the sound instrument, stored afterwards.
     QCOMPARE(r.texts(QStringLiteral("information")), QStringList { complete });
@@ -338,13 +341,15 @@ void tst_InstrumentFaults::faultAtConnect()
     const QStringList setup = readLines(soundLog);
     QVERIFY2(setup.contains(QStringLiteral("FREQ 3000")), qPrintable(setup.join('|')));
 
-    QCOMPARE(openLinks(m_dir->filePath(QStringLiteral("first.log"))), QStringList());
+    // A slow instrument creates the link of a request given up long ago, and sees the
+    // connection gone only after that.
+    QTRY_COMPARE_WITH_TIMEOUT(openLinks(faultyLog), QStringList(), 30000);
     QCOMPARE(openLinks(soundLog), QStringList());
 }
 
-// The instrument answered the reconnect on opening and goes away while the setup sequence
-// runs: "Failed sync to signal generator.", no camera touched, nothing stored; back again, a
-// connect from the same dialog and a second sync work.
+// The instrument answered the reconnect on opening and goes away in the middle of the setup
+// sequence (it kills or freezes itself there): "Failed sync to signal generator.", no camera
+// touched, nothing stored; back again, a connect from the same dialog and a second sync work.
 void tst_InstrumentFaults::lostDuringSetup_data()
 {
     QTest::addColumn<int>("signal");
@@ -358,65 +363,40 @@ void tst_InstrumentFaults::lostDuringSetup()
 
     const QString firstLog = m_dir->filePath(QStringLiteral("first.log"));
     const QString restartedLog = m_dir->filePath(QStringLiteral("restarted.log"));
-    // Slow enough that the sequence is still running when the watcher strikes.
-    const QJsonObject slowish { { "delayMs", 100 } };
+    Simulator first;
+    Simulator restarted;
+    QVERIFY(first.start({ { "log", firstLog } },
+        { signal == SIGKILL ? QStringLiteral("--die-on") : QStringLiteral("--freeze-on"),
+            setupCommand }));
 
-    std::atomic<pid_t> victim { 0 };
-    std::atomic<qint64> struckAtMs { -1 };
-    std::atomic<bool> stop { false };
-    QElapsedTimer clock;
-    clock.start();
-    // On a thread of its own: the setup runs on the GUI thread, which is blocked meanwhile.
-    std::thread striker([&] {
-        while (!stop) {
-            if (readLines(firstLog).contains(QStringLiteral("FUNC:SHAP PULS"))) {
-                const pid_t pid = simulatorWithLog(firstLog);
-                if (pid > 0 && ::kill(pid, signal) == 0) {
-                    victim = pid;
-                    struckAtMs = clock.elapsed();
-                }
-                return;
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(2));
-        }
-    });
-
-    HST_GeneratorSimulator restarted;
-    qint64 toldAtMs = -1;
-    QString problem;
+    bool told = false;
+    bool back = false;
+    // On the failure's box: the instrument comes back, restarted once the killed one has gone
+    // and freed its ports, or resumed.
     const auto tick = [&] {
-        if (struckAtMs < 0 || toldAtMs >= 0)
+        const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (told || !box || box->text() != failedSync)
             return;
-        if (!qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-            return;
-        toldAtMs = clock.elapsed();
-        if (signal == SIGSTOP) {
-            ::kill(victim, SIGCONT);
-        } else if (!restarted.start(
-                       { { "listen", "127.0.0.1" }, { "portmapperPort", portmapperPort },
-                           { "log", restartedLog } },
-                       problem)) {
-            qWarning("restart: %s", qPrintable(problem));
-        }
+        told = true;
+        if (signal == SIGSTOP)
+            back = ::kill(pid_t(first.process.processId()), SIGCONT) == 0;
+        else
+            back = (first.process.state() == QProcess::NotRunning
+                       || first.process.waitForFinished(10000))
+                && restarted.start({ { "log", restartedLog } });
     };
-    const Run r = run(scenario(slowish),
-        syncWithGenerator() + openConnectDialog()
-            + QJsonArray { connectTo(QStringLiteral("127.0.0.1")) } + syncWithGenerator(),
-        tick);
-    stop = true;
-    striker.join();
-    if (signal == SIGSTOP && victim > 0)
-        ::kill(victim, SIGCONT);
-    qInfo("struck at %lld ms, told at %lld ms, reconnect %lld ms, whole run %lld ms",
-        qint64(struckAtMs), toldAtMs, r.pressMs().value(0, -1), r.totalMs);
+    const Run r = run(syncWithGenerator()
+            + QJsonArray { click(QStringLiteral("connect_signal_generator_button")) }
+            + syncWithGenerator(),
+        { QStringLiteral("127.0.0.1") }, tick);
+    qInfo("reconnect %lld ms, whole run %lld ms", r.pressMs.value(0, -1), r.totalMs);
     QCOMPARE(r.code, 0);
-    QVERIFY2(struckAtMs >= 0, "the setup sequence never reached the instrument");
+    QVERIFY2(back, "the instrument did not come back");
+    QVERIFY2(readLines(firstLog).contains(QStringLiteral("*RST")),
+        "the setup sequence never reached the instrument");
 
-    // Told by the error box, within a write's time-out (twice, after an unread query).
+    // Told by the error box alone.
     QCOMPARE(r.texts(QStringLiteral("error")), QStringList { failedSync });
-    QVERIFY(toldAtMs >= 0);
-    QVERIFY2(toldAtMs - struckAtMs < 2 * (visaTimeoutMs + 250) + slack,
-        "the failed setup outlasted its time-out");
     QVERIFY(r.texts(QStringLiteral("warning")).isEmpty());
 
     // Nothing stored nor synced for the failed request; the second one went through.
@@ -433,7 +413,7 @@ void tst_InstrumentFaults::lostDuringSetup()
     QVERIFY2(
         setup.lastIndexOf(QStringLiteral("OUTP ON")) > setup.lastIndexOf(QStringLiteral("*RST")),
         qPrintable(setup.join('|')));
-    QCOMPARE(openLinks(liveLog), QStringList());
+    QTRY_COMPARE(openLinks(liveLog), QStringList());
 }
 
 int main(int argc, char** argv)
