@@ -6,12 +6,14 @@
 #include "util/DOC_Exception.h"
 #include "util/FunctionLogGuard.h"
 #include "util/GUI_MarqueeProgressDialog.h"
+#include "util/UTL_Messages.h"
 #include "util/UTL_TextHelpers.h"
 
 #include <QDebug>
 
 #include <cmath>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -47,7 +49,7 @@ int truncateToInt(float value)
 
 DOC_VIGen::DOC_VIGen(APP_Host* host)
     : DOC_SignalGenerator(host)
-    , m_supportedModels{QStringLiteral("33210A")}
+    , m_supportedModels { QStringLiteral("33210A") }
 {
 }
 
@@ -66,8 +68,8 @@ QString DOC_VIGen::resourceString(int kind, quint32 address)
 bool DOC_VIGen::connect(int kind, quint32 address)
 {
     SYNC_TRACE(QStringLiteral("DOC_VIGen::connect"),
-               FunctionLogGuard::parameter(QStringLiteral("kind"), kind)
-                   + FunctionLogGuard::parameter(QStringLiteral("address"), numberToIp(address)));
+        FunctionLogGuard::parameter(QStringLiteral("kind"), kind)
+            + FunctionLogGuard::parameter(QStringLiteral("address"), numberToIp(address)));
     if (isConnected())
         return true;
     disconnect();
@@ -78,14 +80,12 @@ bool DOC_VIGen::connect(int kind, quint32 address)
     }
 
     const QString resource = resourceString(kind, address);
-    const QString searching = m_host ? m_host->translate(QStringLiteral("Searching"))
-                                     : QStringLiteral("Searching");
+    const QString searching = UTL_Messages::translate(m_host, QStringLiteral("Searching"));
     GUI_MarqueeProgressDialog dialog(m_host, searching + QStringLiteral("..."), QString(), false);
-    auto* thread = new VIGenThread([resource] { return vi::open(resource); });
+    const auto thread = std::make_unique<VIGenThread>([resource] { return vi::open(resource); });
     thread->setProgressDialog(&dialog);
-    dialog.run(thread);
+    dialog.run(thread.get());
     m_connected = thread->result();
-    delete thread;
     return m_connected;
 }
 
@@ -126,7 +126,7 @@ QString DOC_VIGen::getIdentity()
 void DOC_VIGen::sync(int frequency)
 {
     SYNC_TRACE(QStringLiteral("DOC_VIGen::sync"),
-               FunctionLogGuard::parameter(QStringLiteral("frequency"), frequency));
+        FunctionLogGuard::parameter(QStringLiteral("frequency"), frequency));
     if (!m_connected)
         return;
     try {

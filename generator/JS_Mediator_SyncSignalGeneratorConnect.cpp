@@ -3,6 +3,7 @@
 #include "generator/DOC_SignalGenerator.h"
 #include "plugin/APP_Host.h"
 #include "util/FunctionLogGuard.h"
+#include "util/UTL_Barrier.h"
 #include "util/UTL_TextHelpers.h"
 
 namespace {
@@ -21,7 +22,7 @@ JS_Mediator_SyncSignalGeneratorConnect::JS_Mediator_SyncSignalGeneratorConnect(
 
 bool JS_Mediator_SyncSignalGeneratorConnect::checkGeneratorConnect(const QString& address)
 {
-    try {
+    return UTL_Barrier::reported(m_host, false, [&] {
         if (!isIpAddress(address)) {
             m_host->showWarning(QString::fromLatin1(couldNotConnect), nullptr);
             return false;
@@ -37,28 +38,18 @@ bool JS_Mediator_SyncSignalGeneratorConnect::checkGeneratorConnect(const QString
             return true;
         m_generator->disconnect();
         m_host->showWarning(QString::fromLatin1(unsupportedDevice), nullptr);
-    } catch (const std::exception& e) {
-        errorHandler(e);
-    }
-    return false;
+        return false;
+    });
 }
 
 void JS_Mediator_SyncSignalGeneratorConnect::ok()
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator_SyncSignalGeneratorConnect::ok"), QString());
-    try {
-        emit accept();
-    } catch (const std::exception& e) {
-        errorHandler(e);
-    }
+    UTL_Barrier::reported(m_host, [&] { emit accept(); });
 }
 
 void JS_Mediator_SyncSignalGeneratorConnect::cancel()
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator_SyncSignalGeneratorConnect::cancel"), QString());
-    try {
-        emit reject();
-    } catch (const std::exception& e) {
-        errorHandler(e);
-    }
+    UTL_Barrier::reported(m_host, [&] { emit reject(); });
 }

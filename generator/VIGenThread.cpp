@@ -1,6 +1,7 @@
 #include "generator/VIGenThread.h"
 
 #include "util/GUI_MarqueeProgressDialog.h"
+#include "util/UTL_Barrier.h"
 
 #include <QDebug>
 
@@ -20,9 +21,7 @@ void VIGenThread::setProgressDialog(GUI_MarqueeProgressDialog* dialog)
     QObject::connect(this, &VIGenThread::finished, dialog, &QProgressDialog::reset);
 }
 
-void VIGenThread::cancel()
-{
-}
+void VIGenThread::cancel() { }
 
 QString VIGenThread::progressText()
 {
@@ -31,9 +30,11 @@ QString VIGenThread::progressText()
 
 void VIGenThread::run()
 {
-    QMessageLogger().info() << "[START]" << "VIGenThread";
-    m_result = m_function();
+    QMessageLogger().info() << "[START]"
+                            << "VIGenThread";
+    UTL_Barrier::sealed("VIGenThread::run", [this] { m_result = m_function(); });
     emit finished();
     quit();
-    QMessageLogger().info() << "[END]" << "VIGenThread";
+    QMessageLogger().info() << "[END]"
+                            << "VIGenThread";
 }

@@ -14,6 +14,8 @@ public:
     APP_PauseGuard& operator=(const APP_PauseGuard&) = delete;
 
 private:
+    void resume();
+
     APP_Host* m_host;
     bool m_refresh;
     bool m_restart;

@@ -4,12 +4,13 @@
 #include "plugin/APP_PauseGuard.h"
 #include "plugin/DOC_Interface.h"
 #include "plugin/SyncKeys.h"
+#include "util/UTL_Barrier.h"
 #include "web/GUI_ModelessPatternDialog.h"
 #include "web/JS_Mediator.h"
 
-#include <QFile>
 #include <QApplication>
 #include <QDebug>
+#include <QFile>
 #include <QMutex>
 #include <QTextStream>
 #include <QWidget>
@@ -18,15 +19,13 @@
 
 PLG_Common::PLG_Common(QObject* parent)
     : PLG_Interface(parent)
-    , m_mutex(new QMutex(QMutex::Recursive))
+    , m_mutex(std::make_unique<QMutex>(QMutex::Recursive))
 {
 }
 
 PLG_Common::~PLG_Common()
 {
-    delete m_mutex;
-    delete m_mediator;
-    delete m_dialog;
+    delete m_dialog.data();
 }
 
 void PLG_Common::setHost(APP_Host* host)
@@ -36,8 +35,10 @@ void PLG_Common::setHost(APP_Host* host)
 
 void PLG_Common::aboutToUnload()
 {
-    if (pluginType() == 6)
-        closeDialog();
+    UTL_Barrier::reported(m_host, [&] {
+        if (pluginType() == 6)
+            closeDialog();
+    });
 }
 
 void PLG_Common::update()
@@ -52,31 +53,33 @@ void PLG_Common::update()
 
 void PLG_Common::notify(int a, int b, const QVariant& c, bool lock)
 {
-    if (!lock) {
+    UTL_Barrier::reported(m_host, [&] {
+        if (!lock) {
+            onNotify(a, b, c);
+            return;
+        }
+        this->lock();
+        const std::unique_ptr<PLG_Common, void (*)(PLG_Common*)> unlocker(
+            this, [](PLG_Common* plugin) { plugin->unlock(); });
         onNotify(a, b, c);
-        return;
-    }
-    this->lock();
-    const std::unique_ptr<PLG_Common, void (*)(PLG_Common*)> unlocker(
-        this, [](PLG_Common* plugin) { plugin->unlock(); });
-    onNotify(a, b, c);
+    });
 }
 
-void PLG_Common::onNotify(int, int, const QVariant&) {}
+void PLG_Common::onNotify(int, int, const QVariant&) { }
 
 void PLG_Common::notify2(const QVariantList& arguments)
 {
-    onNotify2(arguments);
+    UTL_Barrier::reported(m_host, [&] { onNotify2(arguments); });
 }
 
-void PLG_Common::onNotify2(const QVariantList&) {}
+void PLG_Common::onNotify2(const QVariantList&) { }
 
 void PLG_Common::notify3(const QVariantList& arguments)
 {
-    onNotify3(arguments);
+    UTL_Barrier::reported(m_host, [&] { onNotify3(arguments); });
 }
 
-void PLG_Common::onNotify3(const QVariantList&) {}
+void PLG_Common::onNotify3(const QVariantList&) { }
 
 QString PLG_Common::pageSource()
 {
@@ -98,30 +101,32 @@ bool PLG_Common::isMultiLockTool() const
 
 void PLG_Common::execute()
 {
-    const QString name = pageName();
-    if (!isMultiLockTool()) {
-        if (selectsTool() != 0) {
-            m_host->selectTool(name, true);
-        } else if (isPagedTool()) {
-            if (deselectOthers() != 1) {
-                m_host->selectTool(name, false);
-            } else {
-                m_host->deselectTool(QString());
+    UTL_Barrier::reported(m_host, [&] {
+        const QString name = pageName();
+        if (!isMultiLockTool()) {
+            if (selectsTool() != 0) {
                 m_host->selectTool(name, true);
+            } else if (isPagedTool()) {
+                if (deselectOthers() != 1) {
+                    m_host->selectTool(name, false);
+                } else {
+                    m_host->deselectTool(QString());
+                    m_host->selectTool(name, true);
+                }
             }
         }
-    }
-    if (isPagedTool()) {
-        if (isEditingType()) {
-            if (editKind() == 0)
-                m_host->beginToolEdit(name, true, true);
-            else if (editKind() == 1)
-                m_host->beginToolEdit(name, false, true);
-            m_toolEditOpen = true;
+        if (isPagedTool()) {
+            if (isEditingType()) {
+                if (editKind() == 0)
+                    m_host->beginToolEdit(name, true, true);
+                else if (editKind() == 1)
+                    m_host->beginToolEdit(name, false, true);
+                m_toolEditOpen = true;
+            }
+        } else if (!isMultiLockTool() && selectsTool() == 1) {
+            m_host->setToolOption(name, true);
         }
-    } else if (!isMultiLockTool() && selectsTool() == 1) {
-        m_host->setToolOption(name, true);
-    }
+    });
 }
 
 void PLG_Common::leavePage()
@@ -134,39 +139,45 @@ void PLG_Common::leavePage()
 
 void PLG_Common::leaveTool()
 {
-    clearPageWidget();
-    if (isPagedTool()) {
-        setActive(false);
-        leavePage();
-    } else if (!isMultiLockTool() && selectsTool() == 1) {
-        m_host->setToolOption(pageName(), false);
-    }
-    setFixAspect(false);
-    setOriginalAspect(false);
+    UTL_Barrier::reported(m_host, [&] {
+        clearPageWidget();
+        if (isPagedTool()) {
+            setActive(false);
+            leavePage();
+        } else if (!isMultiLockTool() && selectsTool() == 1) {
+            m_host->setToolOption(pageName(), false);
+        }
+        setFixAspect(false);
+        setOriginalAspect(false);
+    });
 }
 
 void PLG_Common::abortTool()
 {
-    if (!isPagedTool())
-        return;
-    clearPageWidget();
-    m_host->undo();
-    if (isEditingType() && m_toolEditOpen) {
-        m_host->abortToolEdit(pageName());
-        m_toolEditOpen = false;
-    }
+    UTL_Barrier::reported(m_host, [&] {
+        if (!isPagedTool())
+            return;
+        clearPageWidget();
+        m_host->undo();
+        if (isEditingType() && m_toolEditOpen) {
+            m_host->abortToolEdit(pageName());
+            m_toolEditOpen = false;
+        }
+    });
 }
 
 void PLG_Common::commitTool()
 {
-    if (!isPagedTool())
-        return;
-    if (isEditingType()) {
-        m_host->commitToolEdit(true, pageName());
-        m_toolEditOpen = false;
-    }
-    setActive(false);
-    leavePage();
+    UTL_Barrier::reported(m_host, [&] {
+        if (!isPagedTool())
+            return;
+        if (isEditingType()) {
+            m_host->commitToolEdit(true, pageName());
+            m_toolEditOpen = false;
+        }
+        setActive(false);
+        leavePage();
+    });
 }
 
 void PLG_Common::commitToolAgain()
@@ -176,69 +187,84 @@ void PLG_Common::commitToolAgain()
 
 void PLG_Common::rollbackTool()
 {
-    if (!isPagedTool())
-        return;
-    if (isEditingType()) {
-        m_host->abortToolEdit(pageName());
-        m_toolEditOpen = false;
-    }
-    setActive(false);
-    leavePage();
+    UTL_Barrier::reported(m_host, [&] {
+        if (!isPagedTool())
+            return;
+        if (isEditingType()) {
+            m_host->abortToolEdit(pageName());
+            m_toolEditOpen = false;
+        }
+        setActive(false);
+        leavePage();
+    });
 }
 
 void PLG_Common::stopToolPaused(bool pause)
 {
-    if (!pause) {
+    UTL_Barrier::reported(m_host, [&] {
+        if (!pause) {
+            stopTool();
+            return;
+        }
+        const APP_PauseGuard guard(m_host, true, true);
         stopTool();
-        return;
-    }
-    const APP_PauseGuard guard(m_host, true, true);
-    stopTool();
+    });
 }
 
 void PLG_Common::stopTool()
 {
-    if (!isPagedTool())
-        return;
-    setActive(false);
-    m_host->undo();
+    UTL_Barrier::reported(m_host, [&] {
+        if (!isPagedTool())
+            return;
+        setActive(false);
+        m_host->undo();
+    });
 }
 
 void PLG_Common::resetToolPaused(bool pause)
 {
-    if (!pause) {
+    UTL_Barrier::reported(m_host, [&] {
+        if (!pause) {
+            resetTool();
+            return;
+        }
+        const APP_PauseGuard guard(m_host, true, true);
         resetTool();
-        return;
-    }
-    const APP_PauseGuard guard(m_host, true, true);
-    resetTool();
+    });
 }
 
 void PLG_Common::resetTool()
 {
-    if (isPagedTool())
-        m_host->resetTool(pageName());
+    UTL_Barrier::reported(m_host, [&] {
+        if (isPagedTool())
+            m_host->resetTool(pageName());
+    });
 }
 
 void PLG_Common::deselectTool()
 {
-    if (deselectOthers() == 1)
-        m_host->deselectTool(pageName());
+    UTL_Barrier::reported(m_host, [&] {
+        if (deselectOthers() == 1)
+            m_host->deselectTool(pageName());
+    });
 }
 
 void PLG_Common::setStateForMode(bool state)
 {
-    m_stateForMode[m_host && m_host->isFileMode() ? 1 : 0] = state;
+    UTL_Barrier::logged("PLG_Common::setStateForMode",
+        [&] { m_stateForMode[m_host && m_host->isFileMode() ? 1 : 0] = state; });
 }
 
 bool PLG_Common::stateForMode()
 {
-    return m_stateForMode[m_host && m_host->isFileMode() ? 1 : 0];
+    return UTL_Barrier::logged("PLG_Common::stateForMode", false,
+        [&]() -> bool { return m_stateForMode[m_host && m_host->isFileMode() ? 1 : 0]; });
 }
 
 bool PLG_Common::flagForMode()
 {
-    return m_flagForMode[m_host && m_host->isFileMode() ? 1 : 0];
+    return UTL_Barrier::logged("PLG_Common::flagForMode", false,
+        [&]() -> bool { return m_flagForMode[m_host && m_host->isFileMode() ? 1 : 0]; });
 }
 
 bool PLG_Common::isAvailableInMode(int mode)
@@ -250,7 +276,8 @@ bool PLG_Common::isAvailableInMode(int mode)
 
 bool PLG_Common::isAvailable()
 {
-    return m_host && isAvailableInMode(m_host->saveTargetKind());
+    return UTL_Barrier::logged("PLG_Common::isAvailable", false,
+        [&]() -> bool { return m_host && isAvailableInMode(m_host->saveTargetKind()); });
 }
 
 // The rectangle tool is not part of this plug-in; the frame keeps only the mouse state.
@@ -288,10 +315,12 @@ void PLG_Common::resetMouseCursor()
 
 QSize PLG_Common::documentExtent(int docKey)
 {
-    QSize extent(0, 0);
-    if (DOC_Interface* doc = m_host ? m_host->document(docKey, true) : nullptr)
-        static_cast<DOC_ImageData*>(doc)->extent(extent);
-    return extent;
+    return UTL_Barrier::logged("PLG_Common::documentExtent", QSize(0, 0), [&]() -> QSize {
+        QSize extent(0, 0);
+        if (DOC_Interface* doc = m_host ? m_host->document(docKey, true) : nullptr)
+            static_cast<DOC_ImageData*>(doc)->extent(extent);
+        return extent;
+    });
 }
 
 void PLG_Common::lock()
@@ -306,28 +335,30 @@ void PLG_Common::unlock()
 
 bool PLG_Common::isActiveFor(DOC_Interface* doc, int)
 {
-    if (!doc || !isAvailable())
-        return false;
-    switch (pluginType()) {
-    case 1:
-    case 5:
-        return true;
-    case 2:
-    case 3:
-        return doc->isToolSet(pageName());
-    case 4: {
-        PLG_Interface* page = m_host->currentPage();
-        return page && page->pageName() == pageName();
-    }
-    case 6:
-        return isDialogVisible();
-    default:
-        if (isMultiLockTool())
-            return m_host->isMultiLock();
-        if (m_name == SyncKeys::TOOL_ZOOMFIT)
-            return m_host->zoomValue(0) <= 0;
-        return doc->isToolSet(pageName());
-    }
+    return UTL_Barrier::logged("PLG_Common::isActiveFor", false, [&]() -> bool {
+        if (!doc || !isAvailable())
+            return false;
+        switch (pluginType()) {
+        case 1:
+        case 5:
+            return true;
+        case 2:
+        case 3:
+            return doc->isToolSet(pageName());
+        case 4: {
+            PLG_Interface* page = m_host->currentPage();
+            return page && page->pageName() == pageName();
+        }
+        case 6:
+            return isDialogVisible();
+        default:
+            if (isMultiLockTool())
+                return m_host->isMultiLock();
+            if (m_name == SyncKeys::TOOL_ZOOMFIT)
+                return m_host->zoomValue(0) <= 0;
+            return doc->isToolSet(pageName());
+        }
+    });
 }
 
 GUI_ModelessPatternDialog* PLG_Common::dialog(bool create)
@@ -336,9 +367,9 @@ GUI_ModelessPatternDialog* PLG_Common::dialog(bool create)
         m_dialog = createDialog(create);
         if (m_dialog) {
             connect(m_dialog, &GUI_ModelessPatternDialog::shown, this,
-                    &PLG_Common::slotModelessPatternDialogShown);
+                &PLG_Common::slotModelessPatternDialogShown);
             connect(m_dialog, &GUI_ModelessPatternDialog::closed, this,
-                    &PLG_Common::slotModelessPatternDialogClosed);
+                &PLG_Common::slotModelessPatternDialogClosed);
         }
     }
     return m_dialog;
@@ -346,17 +377,19 @@ GUI_ModelessPatternDialog* PLG_Common::dialog(bool create)
 
 void PLG_Common::showDialog()
 {
-    if (!m_dialog || !(m_dialog->isHidden() || m_dialog->isMinimized()))
-        return;
-    if (m_dialog->isMinimized())
-        m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
-    if (JS_Mediator* pageMediator = mediator())
-        emit pageMediator->open();
-    m_dialog->show();
-    if (deselectOthers() == 1) {
-        m_host->deselectTool(QString());
-        m_host->selectTool(pageName(), true);
-    }
+    UTL_Barrier::reported(m_host, [&] {
+        if (!m_dialog || !(m_dialog->isHidden() || m_dialog->isMinimized()))
+            return;
+        if (m_dialog->isMinimized())
+            m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
+        if (JS_Mediator* pageMediator = mediator())
+            emit pageMediator->open();
+        m_dialog->show();
+        if (deselectOthers() == 1) {
+            m_host->deselectTool(QString());
+            m_host->selectTool(pageName(), true);
+        }
+    });
 }
 
 void PLG_Common::hideDialog()
@@ -373,11 +406,13 @@ void PLG_Common::closeDialog()
 
 void PLG_Common::modeChanged(int mode)
 {
-    if (!m_dialog || !m_dialog->isVisible())
-        return;
-    m_dialog->modeChanged(mode);
-    if (!isAvailableInMode(mode) && closesOnModeChange())
-        closeDialog();
+    UTL_Barrier::reported(m_host, [&] {
+        if (!m_dialog || !m_dialog->isVisible())
+            return;
+        m_dialog->modeChanged(mode);
+        if (!isAvailableInMode(mode) && closesOnModeChange())
+            closeDialog();
+    });
 }
 
 void PLG_Common::keyPressed(QKeyEvent*)
@@ -385,18 +420,18 @@ void PLG_Common::keyPressed(QKeyEvent*)
     m_keyHeld = true;
 }
 
-QVariantMap PLG_Common::rectangleParameters(DOC_Interface*, const QSize&, const QRect&, bool,
-                                            bool)
+QVariantMap PLG_Common::rectangleParameters(DOC_Interface*, const QSize&, const QRect&, bool, bool)
 {
     return QVariantMap();
 }
 
 bool PLG_Common::isMouseEventFor(const QPoint&, int docKey)
 {
-    return m_host && m_host->document(docKey, true) != nullptr;
+    return UTL_Barrier::logged("PLG_Common::isMouseEventFor", false,
+        [&]() -> bool { return m_host && m_host->document(docKey, true) != nullptr; });
 }
 
-void PLG_Common::updateCursor(DOC_Interface*, int) {}
+void PLG_Common::updateCursor(DOC_Interface*, int) { }
 
 bool PLG_Common::isDialogVisible()
 {
@@ -405,12 +440,14 @@ bool PLG_Common::isDialogVisible()
 
 void PLG_Common::slotModelessPatternDialogClosed()
 {
-    if (m_dialog && !m_dialog->canClose())
-        return;
-    m_host->deterUpdateUI(true);
-    if (m_dialog)
-        m_dialog->hide();
-    m_host->pageClosed(pageName());
-    m_host->deterUpdateUI(false);
-    m_host->updateUI(~0u, true);
+    UTL_Barrier::reported(m_host, [&] {
+        if (m_dialog && !m_dialog->canClose())
+            return;
+        m_host->deterUpdateUI(true);
+        if (m_dialog)
+            m_dialog->hide();
+        m_host->pageClosed(pageName());
+        m_host->deterUpdateUI(false);
+        m_host->updateUI(~0u, true);
+    });
 }

@@ -2,6 +2,11 @@
 
 #include "plugin/PLG_Interface.h"
 
+#include <QMutex>
+#include <QPointer>
+
+#include <memory>
+
 class QMutex;
 
 // The frame shared by all plug-ins of the host: a tool or button with a name, a kind and a
@@ -37,7 +42,7 @@ public:
     void deselectTool() override;
     void reserved01() override {}
     void reserved02() override {}
-    JS_Mediator* mediator() override { return m_mediator; }
+    JS_Mediator* mediator() override { return m_mediator.get(); }
     QString pageName() override { return m_name; }
     int buttonKind() override { return m_buttonKind; }
     int attribute1() override { return m_attribute1; }
@@ -154,7 +159,8 @@ protected:
     void leavePage();
 
     APP_Host* m_host = nullptr;
-    GUI_ModelessPatternDialog* m_dialog = nullptr;
+    // Owned here; the pointer also sees a parent window deleting it first.
+    QPointer<GUI_ModelessPatternDialog> m_dialog;
     bool m_keyHeld = false;
     QPoint m_lastMousePos;
     int m_buttonKind = 0;
@@ -167,7 +173,7 @@ protected:
     int m_attribute2 = 0;
     bool m_isPagedTool = false;
     bool m_flagForMode[2] = {false, false};
-    JS_Mediator* m_mediator = nullptr;
+    std::unique_ptr<JS_Mediator> m_mediator;
     QWidget* m_pageWidget = nullptr;
     int m_pluginType = 0;
     int m_editKind = 0;
@@ -184,7 +190,7 @@ protected:
     int m_attribute5 = 0;
     int m_attribute6 = 2;
     quint8 m_attribute7 = 0;
-    QMutex* m_mutex;
+    std::unique_ptr<QMutex> m_mutex;
     bool m_flag0 = false;
     bool m_toolEditOpen = false;
     bool m_flag2 = false;

@@ -3,6 +3,7 @@
 #include "plugin/APP_Host.h"
 #include "plugin/SyncKeys.h"
 #include "sync/GUI_SyncControl.h"
+#include "util/UTL_Barrier.h"
 
 #include <new>
 
@@ -13,37 +14,54 @@ PLG_synccontrol::PLG_synccontrol(QObject* parent)
 
 PLG_synccontrol::~PLG_synccontrol()
 {
-    delete m_syncControl;
+    // Null when the host's window, the dialog's parent, has deleted it already.
+    delete m_syncControl.data();
+}
+
+GUI_SyncControl* PLG_synccontrol::syncControl() const
+{
+    return m_syncControl;
 }
 
 void PLG_synccontrol::setHost(APP_Host* host)
 {
     PLG_Button::setHost(host);
-    m_syncControl = new (std::nothrow) GUI_SyncControl(host, host->parentWidget());
+    // Nobody has asked for anything yet: a failure is logged here, and execute tries again.
+    UTL_Barrier::logged("PLG_synccontrol::setHost", [this] { makeDialog(); });
+}
+
+void PLG_synccontrol::makeDialog()
+{
+    if (!m_syncControl && m_host)
+        m_syncControl = new (std::nothrow) GUI_SyncControl(m_host, m_host->parentWidget());
 }
 
 void PLG_synccontrol::update()
 {
-    if (m_syncControl && m_syncControl->isVisible())
-        m_syncControl->guiUpdate();
+    UTL_Barrier::reported(m_host, [this] {
+        if (m_syncControl && m_syncControl->isVisible())
+            m_syncControl->guiUpdate();
+    });
 }
 
 void PLG_synccontrol::execute()
 {
-    if (!m_syncControl)
-        return;
-    try {
-        m_syncControl->exec();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    UTL_Barrier::reported(m_host, [this] {
+        makeDialog();
+        if (m_syncControl)
+            m_syncControl->exec();
+    });
 }
 
 bool PLG_synccontrol::isEnabled()
 {
-    if (!m_host || !m_host->isCameraMode())
-        return false;
-    return m_host->documentKeys(0).size() >= 2;
+    // Asked whenever the host redraws its tool bar: a failure leaves the button off and a
+    // line in the log, not a box at every redraw.
+    return UTL_Barrier::logged("PLG_synccontrol::isEnabled", false, [this] {
+        if (!m_host || !m_host->isCameraMode())
+            return false;
+        return m_host->documentKeys(0).size() >= 2;
+    });
 }
 
 PLG_Interface* makeSyncControlPlugin()

@@ -2,6 +2,8 @@
 
 #include "plugin/PLG_Button.h"
 
+#include <QPointer>
+
 class GUI_SyncControl;
 
 // The sync control button: enabled with two or more documents in camera mode, it runs the
@@ -17,12 +19,16 @@ public:
     void execute() override;
     bool isEnabled() override;
 
-    GUI_SyncControl* syncControl() const { return m_syncControl; }
+    GUI_SyncControl* syncControl() const;
 
 private:
     friend PLG_Interface* makeSyncControlPlugin();
+    // With the host's window as parent, so that it shows over it; null when that failed.
+    void makeDialog();
 
-    GUI_SyncControl* m_syncControl = nullptr;
+    // Owned here, made with the host's window as parent: whichever of the two deletes it
+    // first, the other sees it gone.
+    QPointer<GUI_SyncControl> m_syncControl;
 };
 
 // Makes the plug-in object the exported entry hands to the host; null if allocation failed.

@@ -1,11 +1,15 @@
 #pragma once
 
 #include "sync/SyncWiringDiagram.h"
+#include "sync/SyncWiringDiagramWidget.h"
 #include "web/GUI_Dialog.h"
 
 #include <QList>
 #include <QMutex>
+#include <QPointer>
 #include <QString>
+
+#include <memory>
 
 class APP_Host;
 class DOC_Camera;
@@ -13,7 +17,6 @@ class DOC_SignalGenerator;
 class GUI_SyncControlCombobox;
 class QTimer;
 class SyncHubTable;
-class SyncWiringDiagramWidget;
 class Ui_GUI_SyncControl;
 
 // The modal dialog in which the user settles how all connected cameras are synchronised.
@@ -75,7 +78,8 @@ private:
     void warnMasterConnector();
     QString distributorName() const;
     SyncWiringDiagram::Choices diagramChoices();
-    void rebuildDiagram();
+    // Hands a new diagram to the scroll area, which deletes the one it held.
+    void setDiagram(std::unique_ptr<SyncWiringDiagramWidget> diagram);
     void setOkButtonBlink(bool on);
     void stopBlinking();
     // Runs a slot body in the common frame: entry line, report of a std::exception, then the
@@ -83,11 +87,12 @@ private:
     template <typename Body>
     void slotFrame(const QString& function, const QString& parameters, Body body);
 
-    Ui_GUI_SyncControl* m_ui;
+    std::unique_ptr<Ui_GUI_SyncControl> m_ui;
     APP_Host* m_host;
     int m_triggerMode = 0;
     QList<DOC_Camera*> m_cameras;
-    SyncWiringDiagramWidget* m_diagram = nullptr;
+    // Owned by the scroll area.
+    QPointer<SyncWiringDiagramWidget> m_diagram;
     int m_timingFlagFirst = 0;
     bool m_syncPossible = true;
     QTimer* m_blinkTimer = nullptr;
@@ -107,6 +112,6 @@ private:
     QString m_generatorAddress;
     bool m_guiInitializing = false;
     bool m_updating = false;
-    DOC_SignalGenerator* m_generator = nullptr;
+    std::unique_ptr<DOC_SignalGenerator> m_generator;
     bool m_generatorAvailable = false;
 };

@@ -4,6 +4,8 @@
 
 #include "plugin/APP_Host.h"
 #include "sync/SyncAddressFields.h"
+#include "util/UTL_Barrier.h"
+#include "util/UTL_Messages.h"
 #include "util/UTL_TextHelpers.h"
 #include "util/UserOperationLog.h"
 
@@ -19,25 +21,25 @@ GUI_SyncControlSearchSetting::GUI_SyncControlSearchSetting(APP_Host* host, QWidg
     setMaximumSize(size());
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    setWindowTitle(m_host->translate(QStringLiteral("SearchSetting")));
+    setWindowTitle(UTL_Messages::translate(m_host, QStringLiteral("SearchSetting")));
     connect(m_ui->buttonBox->button(QDialogButtonBox::Ok), &QPushButton::clicked, this,
         &GUI_SyncControlSearchSetting::okClicked);
     connect(m_ui->buttonBox->button(QDialogButtonBox::Cancel), &QPushButton::clicked, this,
         &GUI_SyncControlSearchSetting::cancelClicked);
 
     QTableWidget* table = m_ui->tableWidget;
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         QStringList list;
         static_cast<APP_LinkCoreManager*>(m_host)->addresses(list, true);
         table->clear();
-        m_ui->addButton->setText(m_host->translate(QStringLiteral("Add")));
-        m_ui->deleteButton->setText(m_host->translate(QStringLiteral("Delete")));
+        m_ui->addButton->setText(UTL_Messages::translate(m_host, QStringLiteral("Add")));
+        m_ui->deleteButton->setText(UTL_Messages::translate(m_host, QStringLiteral("Delete")));
         table->setColumnCount(1);
         table->setRowCount(list.size());
         table->setColumnWidth(0, table->width());
         table->setSelectionMode(QAbstractItemView::MultiSelection);
         table->setHorizontalHeaderItem(
-            0, new QTableWidgetItem(m_host->translate(QStringLiteral("IP address"))));
+            0, new QTableWidgetItem(UTL_Messages::translate(m_host, QStringLiteral("IP address"))));
         table->horizontalHeader()->setStyleSheet(
             QStringLiteral("QHeaderView::section {background-color: #2C7CFF; color: white; "
                            "border-style: inset; border-color: #5D99FF; border-width:1px;}"));
@@ -47,9 +49,7 @@ GUI_SyncControlSearchSetting::GUI_SyncControlSearchSetting(APP_Host* host, QWidg
         // A start the user edits, whatever the list holds.
         SyncAddressFields::fill(fields, QStringLiteral("192.168.0.100"));
         reload();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }
 
 GUI_SyncControlSearchSetting::~GUI_SyncControlSearchSetting()
@@ -85,7 +85,7 @@ void GUI_SyncControlSearchSetting::logClick(const char* slot)
 
 void GUI_SyncControlSearchSetting::on_addButton_clicked()
 {
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         const QString address = SyncAddressFields::join(
             { m_ui->ipLineEdit1, m_ui->ipLineEdit2, m_ui->ipLineEdit3, m_ui->ipLineEdit4 });
         if (!isIpAddress(address)) {
@@ -94,41 +94,34 @@ void GUI_SyncControlSearchSetting::on_addButton_clicked()
         }
         static_cast<APP_LinkCoreManager*>(m_host)->addSearchAddress(address);
         reload();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }
 
 void GUI_SyncControlSearchSetting::on_deleteButton_clicked()
 {
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         APP_LinkCoreManager* hubs = m_host;
         for (const QTableWidgetItem* item : m_ui->tableWidget->selectedItems())
             hubs->removeSearchAddress(item->text());
         reload();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }
 
 void GUI_SyncControlSearchSetting::okClicked()
 {
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         logClick("okClicked");
         static_cast<APP_LinkCoreManager*>(m_host)->commitSearchList();
         accept();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }
 
 void GUI_SyncControlSearchSetting::cancelClicked()
 {
-    try {
+    // Cancel always leaves; a failed rollback is reported on the way out.
+    UTL_Barrier::reported(m_host, [&] {
         logClick("cancelClicked");
         static_cast<APP_LinkCoreManager*>(m_host)->rollbackSearchList();
-        reject();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
+    reject();
 }

@@ -6,6 +6,8 @@
 #include "plugin/DOC_LinkCore.h"
 #include "sync/SyncAddressFields.h"
 #include "util/UTL_BackgroundTask.h"
+#include "util/UTL_Barrier.h"
+#include "util/UTL_Messages.h"
 #include "util/UTL_TextHelpers.h"
 #include "util/UserOperationLog.h"
 
@@ -23,15 +25,17 @@ GUI_SyncControlSetting::GUI_SyncControlSetting(
     setMaximumSize(size());
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    setWindowTitle(m_host->translate(QStringLiteral("Setting")));
+    setWindowTitle(UTL_Messages::translate(m_host, QStringLiteral("Setting")));
     connect(m_ui->buttonBox->button(QDialogButtonBox::Ok), &QPushButton::clicked, this,
         &GUI_SyncControlSetting::okClicked);
     connect(m_ui->buttonBox->button(QDialogButtonBox::Cancel), &QPushButton::clicked, this,
         &GUI_SyncControlSetting::cancelClicked);
 
-    try {
-        m_ui->ipaddress_label->setText(m_host->translate(QStringLiteral("IP address")));
-        m_ui->version_title_label->setText(m_host->translate(QStringLiteral("LinkCoreVersion")));
+    UTL_Barrier::reported(m_host, [&] {
+        m_ui->ipaddress_label->setText(
+            UTL_Messages::translate(m_host, QStringLiteral("IP address")));
+        m_ui->version_title_label->setText(
+            UTL_Messages::translate(m_host, QStringLiteral("LinkCoreVersion")));
         const SyncAddressFields::Fields fields { m_ui->ipLineEdit1, m_ui->ipLineEdit2,
             m_ui->ipLineEdit3, m_ui->ipLineEdit4 };
         SyncAddressFields::setUp(fields);
@@ -41,9 +45,7 @@ GUI_SyncControlSetting::GUI_SyncControlSetting(
             if (hub)
                 m_ui->version_label->setText(hub->firmwareVersion());
         }
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }
 
 GUI_SyncControlSetting::~GUI_SyncControlSetting()
@@ -60,7 +62,7 @@ void GUI_SyncControlSetting::logClick(const char* slot)
 
 void GUI_SyncControlSetting::okClicked()
 {
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         logClick("okClicked");
         const QString newAddress = SyncAddressFields::join(
             { m_ui->ipLineEdit1, m_ui->ipLineEdit2, m_ui->ipLineEdit3, m_ui->ipLineEdit4 });
@@ -74,17 +76,13 @@ void GUI_SyncControlSetting::okClicked()
         if (UTL_BackgroundTask::run(m_host, QStringLiteral("Reflecting"),
                 [hubs, oldAddress, newAddress] { hubs->changeAddress(oldAddress, newAddress); }))
             accept();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }
 
 void GUI_SyncControlSetting::cancelClicked()
 {
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         logClick("cancelClicked");
         reject();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }

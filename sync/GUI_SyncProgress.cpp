@@ -9,7 +9,7 @@ GUI_SyncProgress::GUI_SyncProgress(APP_Host* host)
                          Qt::FramelessWindowHint, true)
     , m_host(host)
 {
-    setLabelText(host->translate(QStringLiteral("Syncing")));
+    setLabelText(UTL_Messages::translate(host, QStringLiteral("Syncing")));
     UTL_Messages::setNativeStyle(host, this);
 }
 

@@ -4,6 +4,8 @@
 #include "plugin/DOC_LinkCore.h"
 #include "sync/GUI_SyncControlButton.h"
 #include "sync/GUI_SyncControlCombobox.h"
+#include "util/UTL_Barrier.h"
+#include "util/UTL_Messages.h"
 
 #include <QTableWidget>
 
@@ -37,7 +39,7 @@ void SyncHubTable::fill()
     m_table->setRowCount(addresses.size());
     const auto editButton = [this](const QString& address, QWidget* parent) {
         auto* button = new GUI_SyncControlButton(address, parent);
-        button->setText(m_host->translate(QStringLiteral("Edit")));
+        button->setText(UTL_Messages::translate(m_host, QStringLiteral("Edit")));
         button->setFocusPolicy(Qt::TabFocus);
         connect(button, &GUI_SyncControlButton::signalClicked, this, &SyncHubTable::editClicked);
         return button;
@@ -45,7 +47,7 @@ void SyncHubTable::fill()
     for (int row = 0; row < addresses.size(); ++row) {
         const QString& address = addresses.at(row);
         // One failing hub costs its row some cells, not the table.
-        try {
+        UTL_Barrier::reported(m_host, [&] {
             DOC_LinkCore* hub = manager->device(address);
             const bool connected = hub && hub->isConnected();
             m_table->setItem(row, 0, hubItem(address, connected ? QColor(Qt::white) : Grey));
@@ -55,27 +57,25 @@ void SyncHubTable::fill()
                 GUI_SyncControlButton* button = editButton(address, nullptr);
                 button->setEnabled(false);
                 m_table->setCellWidget(row, 3, button);
-                continue;
+                return;
             }
             const int mode = hub->syncMode();
             QList<int> frequencies;
             hub->frequencies(frequencies);
             m_table->setItem(row, 1, hubItem(hub->syncModeText(), Qt::white));
             if (mode == 0) {
-                auto* combo =
-                    new GUI_SyncControlCombobox(address, frequencies, hub->frequency(), m_table);
+                auto* combo
+                    = new GUI_SyncControlCombobox(address, frequencies, hub->frequency(), m_table);
                 combo->setStyleSheet(
                     QStringLiteral("QComboBox { background-color: white; text-align:center;}"));
                 connect(combo, &GUI_SyncControlCombobox::signalTextChanged, this,
-                        &SyncHubTable::frequencyChanged, Qt::QueuedConnection);
+                    &SyncHubTable::frequencyChanged, Qt::QueuedConnection);
                 m_table->setCellWidget(row, 2, combo);
             } else {
                 m_table->setItem(row, 2, hubItem(QString(), Grey));
             }
             m_table->setCellWidget(row, 3, editButton(address, m_table));
-        } catch (const std::exception& e) {
-            m_host->reportException(e);
-        }
+        });
     }
     m_table->setEditTriggers(QAbstractItemView::AnyKeyPressed);
 }
@@ -86,33 +86,36 @@ void SyncHubTable::clear()
         if (auto* combo = qobject_cast<GUI_SyncControlCombobox*>(m_table->cellWidget(row, 2))) {
             m_table->setCellWidget(row, 2, nullptr);
             disconnect(combo, &GUI_SyncControlCombobox::signalTextChanged, this,
-                       &SyncHubTable::frequencyChanged);
+                &SyncHubTable::frequencyChanged);
             delete combo;
         }
         if (auto* button = qobject_cast<GUI_SyncControlButton*>(m_table->cellWidget(row, 3))) {
             m_table->setCellWidget(row, 3, nullptr);
-            disconnect(button, &GUI_SyncControlButton::signalClicked, this,
-                       &SyncHubTable::editClicked);
+            disconnect(
+                button, &GUI_SyncControlButton::signalClicked, this, &SyncHubTable::editClicked);
             delete button;
         }
     }
     m_table->setRowCount(0);
 }
 
-int SyncHubTable::connectedInternalHubs()
+int SyncHubTable::connectedInternalHubs(bool whilePainting)
 {
     APP_LinkCoreManager* manager = m_host;
     QStringList addresses;
     manager->addresses(addresses, true);
     int count = 0;
     for (const QString& address : qAsConst(addresses)) {
-        try {
+        const auto countHub = [&] {
             DOC_LinkCore* hub = manager->device(address);
             if (hub && hub->isConnected() && hub->syncMode() == 0)
                 ++count;
-        } catch (const std::exception& e) {
-            m_host->reportException(e);
-        }
+        };
+        // A box opened from a paint event would paint again under it: there, the log.
+        if (whilePainting)
+            UTL_Barrier::logged("SyncHubTable::connectedInternalHubs", countHub);
+        else
+            UTL_Barrier::reported(m_host, countHub);
     }
     return count;
 }

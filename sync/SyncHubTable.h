@@ -19,7 +19,9 @@ public:
     // Removes the row widgets and all rows.
     void clear();
     // Hubs that answer and make the sync signal themselves; a failing hub counts as none.
-    int connectedInternalHubs();
+    // A hub whose query fails counts as not found; the failure is reported, or logged while
+    // painting.
+    int connectedInternalHubs(bool whilePainting = false);
 
 signals:
     void editClicked(const QString& ipaddress);

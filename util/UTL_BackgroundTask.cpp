@@ -2,12 +2,13 @@
 
 #include "plugin/APP_Host.h"
 #include "util/APP_ConcurrentException.h"
+#include "util/UTL_Barrier.h"
 
 #include <QFutureWatcher>
 #include <QtConcurrent>
 
-bool UTL_BackgroundTask::run(APP_Host* host, const QString& busyText,
-                             const std::function<void()>& work)
+bool UTL_BackgroundTask::run(
+    APP_Host* host, const QString& busyText, const std::function<void()>& work)
 {
     try {
         QFutureWatcher<void> watcher;
@@ -15,9 +16,9 @@ bool UTL_BackgroundTask::run(APP_Host* host, const QString& busyText,
         host->runWithBusyDialog(busyText, &watcher);
         return true;
     } catch (const APP_ConcurrentException& e) {
-        host->reportException(e.exception());
+        UTL_Barrier::report(host, e.exception());
     } catch (const std::exception& e) {
-        host->reportException(e);
+        UTL_Barrier::report(host, e);
     }
     return false;
 }

@@ -3,13 +3,14 @@
 #include "plugin/APP_Host.h"
 #include "plugin/SyncKeys.h"
 #include "util/FunctionLogGuard.h"
+#include "util/UTL_Barrier.h"
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDebug>
 #include <QDesktopWidget>
 #include <QFile>
 #include <QMessageBox>
-#include <QDebug>
 #include <QPushButton>
 #include <QScreen>
 #include <QTextStream>
@@ -31,7 +32,7 @@ public:
     ~ModalAnnouncement()
     {
         if (m_host)
-            m_host->endModalDialog();
+            UTL_Barrier::sealed(m_host, "ModalAnnouncement", [this] { m_host->endModalDialog(); });
     }
     ModalAnnouncement(const ModalAnnouncement&) = delete;
     ModalAnnouncement& operator=(const ModalAnnouncement&) = delete;
@@ -42,12 +43,13 @@ private:
 
 } // namespace
 
-int UTL_Messages::confirmYesNoCancel(const QString& text, APP_Host* host, QWidget* parent,
-                                     const QMap<int, QString>& buttonTexts)
+int UTL_Messages::confirmYesNoCancel(
+    const QString& text, APP_Host* host, QWidget* parent, const QMap<int, QString>& buttonTexts)
 {
-    const QString translated = QCoreApplication::translate(TRANSLATION_CONTEXT, text.toUtf8().constData());
+    const QString translated
+        = QCoreApplication::translate(TRANSLATION_CONTEXT, text.toUtf8().constData());
     SYNC_TRACE(QStringLiteral("UTL_Messages::confirmYesNoCancel"),
-               FunctionLogGuard::parameter(QStringLiteral("text"), translated));
+        FunctionLogGuard::parameter(QStringLiteral("text"), translated));
 
     if (!parent && host)
         parent = host->getMainWindow();
@@ -63,11 +65,11 @@ int UTL_Messages::confirmYesNoCancel(const QString& text, APP_Host* host, QWidge
         box.setWindowFlags(box.windowFlags() | Qt::WindowStaysOnTopHint);
 
         if (!buttonTexts.contains(QMessageBox::Cancel) && host)
-            box.button(QMessageBox::Cancel)->setText(host->translate(QStringLiteral("Cancel")));
+            box.button(QMessageBox::Cancel)->setText(translate(host, QStringLiteral("Cancel")));
         for (auto it = buttonTexts.cbegin(); it != buttonTexts.cend(); ++it) {
             if (QAbstractButton* button = box.button(QMessageBox::StandardButton(it.key())))
-                button->setText(QCoreApplication::translate(TRANSLATION_CONTEXT,
-                                                            it.value().toUtf8().constData()));
+                button->setText(QCoreApplication::translate(
+                    TRANSLATION_CONTEXT, it.value().toUtf8().constData()));
         }
         if (buttonTexts.isEmpty())
             setNativeStyle(host, &box);
@@ -80,7 +82,7 @@ int UTL_Messages::confirmYesNoCancel(const QString& text, APP_Host* host, QWidge
         result = box.exec();
     }
     QMessageLogger().info() << QStringLiteral("[") + translated + QStringLiteral("][result:")
-                                   + buttonName(result) + QStringLiteral("]");
+            + buttonName(result) + QStringLiteral("]");
     return result;
 }
 
@@ -88,8 +90,9 @@ void UTL_Messages::setMessageBoxStyle(APP_Host* host, QWidget* widget)
 {
     if (!widget)
         return;
-    widget->setStyleSheet(styleSheet(isDarkTheme(host) ? QStringLiteral("://ui-messageBox-dark.css")
-                                                       : QStringLiteral("://ui-messageBox-light.css")));
+    widget->setStyleSheet(
+        styleSheet(isDarkTheme(host) ? QStringLiteral("://ui-messageBox-dark.css")
+                                     : QStringLiteral("://ui-messageBox-light.css")));
 }
 
 void UTL_Messages::setNativeStyle(APP_Host* host, QWidget* widget)
@@ -106,14 +109,19 @@ void UTL_Messages::centerOnScreen(APP_Host* host, QWidget* widget)
         return;
     const QList<QScreen*> screens = QGuiApplication::screens();
     const int number = host->getPrefInt(SyncKeys::PREF_KEY_MAIN_SCRNO, 0);
-    QScreen* screen = (number >= 0 && number < screens.size()) ? screens.at(number)
-                                                               : widget->screen();
+    QScreen* screen
+        = (number >= 0 && number < screens.size()) ? screens.at(number) : widget->screen();
     if (!screen)
         return;
     const QRect area = screen->geometry();
     widget->move(area.topLeft()
-                 + QPoint((area.width() - widget->width()) / 2,
-                          (area.height() - widget->height()) / 2));
+        + QPoint((area.width() - widget->width()) / 2, (area.height() - widget->height()) / 2));
+}
+
+QString UTL_Messages::translate(APP_Host* host, const QString& sourceText)
+{
+    return UTL_Barrier::logged(
+        "translate", sourceText, [&] { return host ? host->translate(sourceText) : sourceText; });
 }
 
 QString UTL_Messages::buttonName(int button)

@@ -21,6 +21,10 @@ public:
     static void setNativeStyle(APP_Host* host, QWidget* widget);
     static void centerOnScreen(APP_Host* host, QWidget* widget);
 
+    // The host's translation of a text for the user. A translation that fails leaves the
+    // source text and a line in the log: an untranslated text beats no dialog at all.
+    static QString translate(APP_Host* host, const QString& sourceText);
+
     // Name of a standard button for the log; empty for a value without a name.
     static QString buttonName(int button);
 

@@ -2,6 +2,7 @@
 
 #include "plugin/APP_Host.h"
 #include "plugin/PLG_Interface.h"
+#include "util/UTL_Barrier.h"
 #include "web/GUI_QrcNetworkAccess.h"
 
 #include <QHash>
@@ -23,7 +24,7 @@ QObject* GUI_WebPage::createPlugin(
 {
     if (!m_host)
         return nullptr;
-    try {
+    return UTL_Barrier::reported(m_host, static_cast<QObject*>(nullptr), [&]() -> QObject* {
         if (classid == QLatin1String("mdi"))
             return m_host->mdiWidget();
         static const QHash<QString, QString> pluginOfClass {
@@ -47,10 +48,7 @@ QObject* GUI_WebPage::createPlugin(
             return nullptr;
         plugin->prepareEmbedding();
         return plugin->pageWidget();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
-    return nullptr;
+    });
 }
 
 void GUI_WebPage::javaScriptConsoleMessage(const QString&, int, const QString&) { }

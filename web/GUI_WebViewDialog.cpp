@@ -2,6 +2,7 @@
 
 #include "plugin/APP_Host.h"
 #include "util/FunctionLogGuard.h"
+#include "util/UTL_Barrier.h"
 #include "util/UTL_Messages.h"
 #include "web/GUI_WebView.h"
 #include "web/JS_Mediator_Dialog.h"
@@ -18,52 +19,47 @@ GUI_WebViewDialog::GUI_WebViewDialog(APP_Host* host, const QString& title, const
         parent, Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint, true)
     , m_host(host)
     , m_mediator(mediator)
-    , m_layout(new QVBoxLayout)
+    , m_layout(new QVBoxLayout(this))
     , m_webView(new GUI_WebView(host, this))
 {
-    if (m_host->isModalAnnounced()) {
-        m_host->beginModalDialog();
-        m_modalAnnounced = true;
-    }
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->addWidget(m_webView);
-    setLayout(m_layout);
-    setWindowTitle(m_host->translate(title));
+    setWindowTitle(UTL_Messages::translate(m_host, title));
 
-    connect(m_mediator, &JS_Mediator_Dialog::accept, this, &QDialog::accept);
-    connect(m_mediator, &JS_Mediator_Dialog::reject, this, &QDialog::reject);
+    connect(m_mediator.get(), &JS_Mediator_Dialog::accept, this, &QDialog::accept);
+    connect(m_mediator.get(), &JS_Mediator_Dialog::reject, this, &QDialog::reject);
     connect(this, &QDialog::rejected, this, &GUI_WebViewDialog::slotRejected);
     connect(m_webView, &QWebView::loadStarted, this, &GUI_WebViewDialog::loadStarted);
     connect(m_webView, &QWebView::loadProgress, this, &GUI_WebViewDialog::loadProgress);
     connect(m_webView, &QWebView::loadFinished, this, &GUI_WebViewDialog::loadFinished);
 
     // Published before the load, so the object exists when the page's first script runs.
-    m_host->attachMediator(m_webView, m_mediator);
+    m_host->attachMediator(m_webView, m_mediator.get());
     m_webView->load(QUrl(url));
+    // Last: a constructor that throws runs no destructor, which would end the announcement.
+    if (m_host->isModalAnnounced()) {
+        m_host->beginModalDialog();
+        m_modalAnnounced = true;
+    }
 }
 
 GUI_WebViewDialog::~GUI_WebViewDialog()
 {
-    try {
+    UTL_Barrier::sealed(m_host, "GUI_WebViewDialog::~GUI_WebViewDialog", [&] {
         if (m_modalAnnounced && !m_host->isShuttingDown())
             m_host->endModalDialog();
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
-    // The view goes first: its page must not call a deleted mediator while it unloads.
+    });
+    // The view, a child, goes first: its page must not call a deleted mediator while it
+    // unloads. The mediators go with the members.
     m_webView->close();
     delete m_webView;
     m_webView = nullptr;
-    delete m_mediator;
-    qDeleteAll(m_extraMediators);
-    m_extraMediators.clear();
-    delete m_layout;
 }
 
 void GUI_WebViewDialog::addMediator(JS_Mediator* mediator)
 {
+    m_extraMediators.emplace_back(mediator);
     m_host->attachMediator(m_webView, mediator);
-    m_extraMediators.append(mediator);
 }
 
 void GUI_WebViewDialog::closeEvent(QCloseEvent* event)
@@ -81,11 +77,7 @@ void GUI_WebViewDialog::slotRejected()
 void GUI_WebViewDialog::loadStarted()
 {
     SYNC_TRACE(QStringLiteral("GUI_WebViewDialog::loadStarted"), QString());
-    try {
-        m_host->deterUpdateUI(true);
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    UTL_Barrier::reported(m_host, [&] { m_host->deterUpdateUI(true); });
     m_webView->setFocus(Qt::OtherFocusReason);
     setWindowOpacity(0.0);
 }
@@ -103,10 +95,8 @@ void GUI_WebViewDialog::loadFinished(bool ok)
     fadeIn->setStartValue(0.0);
     fadeIn->setEndValue(1.0);
     fadeIn->start(QAbstractAnimation::DeleteWhenStopped);
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         m_host->deterUpdateUI(false);
         m_host->updateUI(0xFFFFFFFFu, true);
-    } catch (const std::exception& e) {
-        m_host->reportException(e);
-    }
+    });
 }

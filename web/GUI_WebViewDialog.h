@@ -4,6 +4,9 @@
 
 #include <QList>
 
+#include <memory>
+#include <vector>
+
 class APP_Host;
 class GUI_WebView;
 class JS_Mediator;
@@ -26,7 +29,7 @@ public:
     // A further object for the page; the dialog owns it from now on.
     void addMediator(JS_Mediator* mediator);
     GUI_WebView* webView() const { return m_webView; }
-    JS_Mediator_Dialog* mediator() const { return m_mediator; }
+    JS_Mediator_Dialog* mediator() const { return m_mediator.get(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -40,8 +43,9 @@ private slots:
     void loadFinished(bool ok);
 
 private:
-    JS_Mediator_Dialog* m_mediator;
-    QList<JS_Mediator*> m_extraMediators;
+    std::unique_ptr<JS_Mediator_Dialog> m_mediator;
+    std::vector<std::unique_ptr<JS_Mediator>> m_extraMediators;
+    // Children of the dialog.
     QVBoxLayout* m_layout;
     GUI_WebView* m_webView;
     bool m_modalAnnounced = false;

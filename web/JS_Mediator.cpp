@@ -3,6 +3,7 @@
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
 #include "util/FunctionLogGuard.h"
+#include "util/UTL_Barrier.h"
 #include "util/UTL_Messages.h"
 #include "util/UserOperationLog.h"
 #include "web/OperationEventHandler.h"
@@ -15,32 +16,6 @@
 #include <QWebView>
 
 #include <memory>
-
-namespace {
-
-// A host call made for a page: a throw must not unwind into the script engine, so even the
-// plain forwarders end in the host's report and give the neutral value.
-template <typename Result, typename Call>
-Result forward(JS_Mediator* mediator, Result neutral, Call call)
-{
-    try {
-        return call();
-    } catch (const std::exception& e) {
-        mediator->errorHandler(e);
-    }
-    return neutral;
-}
-
-template <typename Call> void forward(JS_Mediator* mediator, Call call)
-{
-    try {
-        call();
-    } catch (const std::exception& e) {
-        mediator->errorHandler(e);
-    }
-}
-
-} // namespace
 
 JS_Mediator::JS_Mediator(APP_Host* host, const QString& name)
     : QObject(nullptr)
@@ -60,8 +35,7 @@ void JS_Mediator::setWebView(QWebView* view)
 
 void JS_Mediator::errorHandler(const std::exception& e)
 {
-    if (m_host)
-        m_host->reportException(e);
+    UTL_Barrier::report(m_host, e);
 }
 
 void JS_Mediator::applySkipMode(int) { }
@@ -82,7 +56,7 @@ double JS_Mediator::getSkipFrames()
 
 bool JS_Mediator::isFileMode()
 {
-    return forward(this, false, [this] { return m_host->isFileMode(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isFileMode(); });
 }
 
 void JS_Mediator::addPrefsJSObject()
@@ -95,7 +69,7 @@ void JS_Mediator::setStyle(const QString& style)
 {
     OperationEventHandler guard(this, QStringLiteral("JS_Mediator::setStyle"),
         FunctionLogGuard::parameter(QStringLiteral("style"), style));
-    try {
+    UTL_Barrier::reported(m_host, [&] {
         m_host->setPrefString(QStringLiteral("env/style"), style);
         if (QWidget* mainWindow = m_host->getMainWindow()) {
             const auto dialogs
@@ -103,14 +77,12 @@ void JS_Mediator::setStyle(const QString& style)
             if (!dialogs.isEmpty())
                 UTL_Messages::setNativeStyle(m_host, dialogs.first());
         }
-    } catch (const std::exception& e) {
-        errorHandler(e);
-    }
+    });
 }
 
 QString JS_Mediator::getStyle()
 {
-    return forward(this, QString(), [this] {
+    return UTL_Barrier::reported(m_host, QString(), [this] {
         QString style;
         return m_host->getPrefString(style, QStringLiteral("env/style"), QStringLiteral("light"));
     });
@@ -120,81 +92,81 @@ void JS_Mediator::openPlugin(const QString& name)
 {
     OperationEventHandler guard(this, QStringLiteral("JS_Mediator::openPlugin"),
         FunctionLogGuard::parameter(QStringLiteral("name"), name));
-    forward(this, [&] { m_host->showPage(name); });
+    UTL_Barrier::reported(m_host, [&] { m_host->showPage(name); });
 }
 
 void JS_Mediator::closePlugin()
 {
     OperationEventHandler guard(this, QStringLiteral("JS_Mediator::closePlugin"), QString());
-    forward(this, [this] { m_host->showPreviousPage(); });
+    UTL_Barrier::reported(m_host, [this] { m_host->showPreviousPage(); });
 }
 
 void JS_Mediator::closePlugin(const QString& name)
 {
-    forward(this, [this] { m_host->deterUpdateUI(true); });
+    UTL_Barrier::reported(m_host, [this] { m_host->deterUpdateUI(true); });
     {
         OperationEventHandler guard(this, QStringLiteral("JS_Mediator::closePlugin"),
             FunctionLogGuard::parameter(QStringLiteral("name"), name));
-        forward(this, [&] { m_host->pageClosed(name); });
+        UTL_Barrier::reported(m_host, [&] { m_host->pageClosed(name); });
     }
-    forward(this, [this] { m_host->deterUpdateUI(false); });
+    UTL_Barrier::reported(m_host, [this] { m_host->deterUpdateUI(false); });
 }
 
 void JS_Mediator::info(const QString& message)
 {
-    forward(this, [&] { m_host->showInformation(message, nullptr); });
+    UTL_Barrier::reported(m_host, [&] { m_host->showInformation(message, nullptr); });
 }
 
 void JS_Mediator::warn(const QString& message)
 {
-    forward(this, [&] { m_host->showWarning(message, nullptr); });
+    UTL_Barrier::reported(m_host, [&] { m_host->showWarning(message, nullptr); });
 }
 
 void JS_Mediator::warn(const QString& message, const QStringList& messages)
 {
     // The host's list variants have no parent argument and no warning kind of their own.
-    forward(this, [&] { m_host->showInformationList(message, messages); });
+    UTL_Barrier::reported(m_host, [&] { m_host->showInformationList(message, messages); });
 }
 
 void JS_Mediator::alert(const QString& message)
 {
-    forward(this, [&] { m_host->showError(message, nullptr); });
+    UTL_Barrier::reported(m_host, [&] { m_host->showError(message, nullptr); });
 }
 
 void JS_Mediator::alert(const QString& message, const QStringList& messages)
 {
-    forward(this, [&] { m_host->showErrorList(message, messages); });
+    UTL_Barrier::reported(m_host, [&] { m_host->showErrorList(message, messages); });
 }
 
 bool JS_Mediator::confirm(const QString& message)
 {
-    return forward(this, false, [&] { return m_host->confirm(message, nullptr, QVariantMap()); });
+    return UTL_Barrier::reported(
+        m_host, false, [&] { return m_host->confirm(message, nullptr, QVariantMap()); });
 }
 
 QString JS_Mediator::translate(const QString& string)
 {
-    return forward(this, QString(), [&] { return m_host->translate(string); });
+    return UTL_Messages::translate(m_host, string);
 }
 
 QString JS_Mediator::translate(const QString& string, const QString& arg)
 {
-    return forward(
-        this, QString(), [&] { return m_host->translate(string).arg(m_host->translate(arg)); });
+    return UTL_Messages::translate(m_host, string).arg(UTL_Messages::translate(m_host, arg));
 }
 
 bool JS_Mediator::isReady()
 {
-    return forward(this, false, [this] { return m_host->isReady(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isReady(); });
 }
 
 bool JS_Mediator::isLiveMode()
 {
-    return forward(this, false, [this] { return m_host->isCameraMode(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isCameraMode(); });
 }
 
 bool JS_Mediator::isMemoryMode()
 {
-    return forward(this, false, [this] { return m_host->isMemoryMode(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isMemoryMode(); });
 }
 
 bool JS_Mediator::isPlaying()
@@ -205,7 +177,7 @@ bool JS_Mediator::isPlaying()
 
 bool JS_Mediator::isConnected()
 {
-    return forward(this, false, [this] {
+    return UTL_Barrier::reported(m_host, false, [this] {
         DOC_Interface* doc = m_host->currentDocument();
         return doc && doc->isConnected();
     });
@@ -223,18 +195,18 @@ QString JS_Mediator::load(const QString& fileName)
 
 void JS_Mediator::updateUI()
 {
-    forward(this, [this] { m_host->updateUI(m_updateMask, true); });
+    UTL_Barrier::reported(m_host, [this] { m_host->updateUI(m_updateMask, true); });
 }
 
 void JS_Mediator::deterUpdateUI(bool deter)
 {
-    forward(this, [&] { m_host->deterUpdateUI(deter); });
+    UTL_Barrier::reported(m_host, [&] { m_host->deterUpdateUI(deter); });
 }
 
 void JS_Mediator::openAbouTarvixDialog()
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator::openAbouTarvixDialog"), QString());
-    forward(this, [this] { m_host->showAbout(); });
+    UTL_Barrier::reported(m_host, [this] { m_host->showAbout(); });
 }
 
 void JS_Mediator::log(const QString&) { }
@@ -253,18 +225,18 @@ void JS_Mediator::errorLog(const QString& msg)
 
 bool JS_Mediator::isWaveDataAcquisition()
 {
-    return forward(this, false, [this] { return m_host->isWaveDataAcquisition(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isWaveDataAcquisition(); });
 }
 
 bool JS_Mediator::isUpdateIgnore()
 {
-    return forward(this, false, [this] { return m_host->isUpdateIgnore(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isUpdateIgnore(); });
 }
 
 void JS_Mediator::setDisableAllQuickTool()
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator::setDisableAllQuickTool"), QString());
-    forward(this, [this] {
+    UTL_Barrier::reported(m_host, [this] {
         m_host->deselectTool(QString());
         m_host->documentsChanged();
         m_host->refreshQuickTools();
@@ -284,17 +256,17 @@ void JS_Mediator::userOperationErrorLog(const QString& message)
 
 int JS_Mediator::countMdiWindow(bool visible)
 {
-    return forward(this, 0, [&] { return m_host->windowCount(visible, 2); });
+    return UTL_Barrier::reported(m_host, 0, [&] { return m_host->windowCount(visible, 2); });
 }
 
 bool JS_Mediator::isRostraRunning()
 {
-    return forward(this, false, [this] { return m_host->isRostraRunning(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isRostraRunning(); });
 }
 
 void JS_Mediator::checkRestoredPrefs()
 {
-    forward(this, [this] {
+    UTL_Barrier::reported(m_host, [this] {
         if (m_host->hasRestoredPrefs())
             m_host->applyRestoredPrefs();
     });
@@ -302,47 +274,50 @@ void JS_Mediator::checkRestoredPrefs()
 
 void JS_Mediator::hideSelectBox()
 {
-    forward(this, [this] { m_host->hideSelectBox(); });
+    UTL_Barrier::reported(m_host, [this] { m_host->hideSelectBox(); });
 }
 
 bool JS_Mediator::isShownDropBox()
 {
-    return forward(this, false, [this] { return m_host->isShownDropBox(); });
+    return UTL_Barrier::reported(m_host, false, [this] { return m_host->isShownDropBox(); });
 }
 
 void JS_Mediator::showDropDownBox(const QString& key, int x, int y, int width, int height)
 {
-    forward(this, [&] { m_host->showDropDownBox(key, QRect(x, y, width, height)); });
+    UTL_Barrier::reported(
+        m_host, [&] { m_host->showDropDownBox(key, QRect(x, y, width, height)); });
 }
 
 void JS_Mediator::hideDropDownBox(const QString& key)
 {
-    forward(this, [&] { m_host->hideDropDownBox(key); });
+    UTL_Barrier::reported(m_host, [&] { m_host->hideDropDownBox(key); });
 }
 
 void JS_Mediator::hideDropDownBox(const QString& key, int x, int y)
 {
-    forward(this, [&] { m_host->hideDropDownBoxAt(key, QPoint(x, y)); });
+    UTL_Barrier::reported(m_host, [&] { m_host->hideDropDownBoxAt(key, QPoint(x, y)); });
 }
 
 int JS_Mediator::getPrefInt(const QString& name, const QVariant& defaultValue)
 {
-    return forward(this, 0, [&] { return m_host->getPrefInt(name, defaultValue); });
+    return UTL_Barrier::reported(m_host, 0, [&] { return m_host->getPrefInt(name, defaultValue); });
 }
 
 bool JS_Mediator::getPrefBool(const QString& name, const QVariant& defaultValue)
 {
-    return forward(this, false, [&] { return m_host->getPrefBool(name, defaultValue); });
+    return UTL_Barrier::reported(
+        m_host, false, [&] { return m_host->getPrefBool(name, defaultValue); });
 }
 
 float JS_Mediator::getPrefFloat(const QString& name, const QVariant& defaultValue)
 {
-    return forward(this, 0.0f, [&] { return m_host->getPrefFloat(name, defaultValue); });
+    return UTL_Barrier::reported(
+        m_host, 0.0f, [&] { return m_host->getPrefFloat(name, defaultValue); });
 }
 
 QString JS_Mediator::getPrefString(const QString& name, const QVariant& defaultValue)
 {
-    return forward(this, QString(), [&] {
+    return UTL_Barrier::reported(m_host, QString(), [&] {
         QString value;
         return m_host->getPrefString(value, name, defaultValue);
     });
@@ -355,7 +330,7 @@ void JS_Mediator::setPref(const char* operation, const QString& name, bool updat
     if (update)
         guard = std::make_shared<OperationEventHandler>(
             this, QStringLiteral("JS_Mediator::") + QLatin1String(operation), QString());
-    forward(this, [&] { write(name); });
+    UTL_Barrier::reported(m_host, [&] { write(name); });
 }
 
 void JS_Mediator::setPrefInt(const QString& name, int value, bool update)

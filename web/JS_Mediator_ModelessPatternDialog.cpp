@@ -1,6 +1,7 @@
 #include "web/JS_Mediator_ModelessPatternDialog.h"
 
 #include "plugin/APP_Host.h"
+#include "util/UTL_Barrier.h"
 
 JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(
     APP_Host* host, const QString& name)
@@ -10,9 +11,5 @@ JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(
 
 void JS_Mediator_ModelessPatternDialog::setTextBoxFocusState(bool focus)
 {
-    try {
-        m_host->setModelessTextFocus(focus);
-    } catch (const std::exception& e) {
-        errorHandler(e);
-    }
+    UTL_Barrier::reported(m_host, [&] { m_host->setModelessTextFocus(focus); });
 }

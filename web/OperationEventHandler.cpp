@@ -2,6 +2,7 @@
 
 #include "plugin/APP_Host.h"
 #include "util/FunctionLogGuard.h"
+#include "util/UTL_Barrier.h"
 #include "web/JS_Mediator.h"
 
 OperationEventHandler::OperationEventHandler(
@@ -17,11 +18,9 @@ OperationEventHandler::~OperationEventHandler()
 {
     if (m_mediator && m_mediator->host()) {
         // A destructor may run during unwinding: the update's own failure goes to the host.
-        try {
-            m_mediator->host()->updateUI(m_mediator->updateMask(), true);
-        } catch (const std::exception& e) {
-            m_mediator->errorHandler(e);
-        }
+        UTL_Barrier::sealed(m_mediator->host(), "OperationEventHandler",
+            [this] { m_mediator->host()->updateUI(m_mediator->updateMask(), true); });
     }
-    FunctionLogGuard::writeLeave(m_name);
+    UTL_Barrier::sealed(
+        nullptr, "OperationEventHandler", [this] { FunctionLogGuard::writeLeave(m_name); });
 }

@@ -67,9 +67,6 @@ void tst_Mediator::hostFailureIsReported_data()
     QTest::newRow("getPrefString gives empty text") << "getPrefString" << Call([](JS_Mediator* m) {
         return QVariant(m->getPrefString(QStringLiteral("k")));
     }) << QVariant(QString()) << 0;
-    QTest::newRow("translate gives empty text")
-        << "translate" << Call([](JS_Mediator* m) { return QVariant(m->translate("x")); })
-        << QVariant(QString()) << 0;
     QTest::newRow("confirm gives false")
         << "confirm" << Call([](JS_Mediator* m) { return QVariant(m->confirm("?")); })
         << QVariant(false) << 0;
