@@ -1,5 +1,6 @@
 #include "host/HST_Application.h"
 
+#include "host/HST_Faults.h"
 #include "host/HST_GeneratorSimulator.h"
 #include "host/HST_Host.h"
 #include "host/HST_MainWindow.h"
@@ -78,8 +79,10 @@ bool HST_Application::parseArguments(
         QStringLiteral("Save the active window at the end."), QStringLiteral("FILE"));
     const QCommandLineOption quit(QStringLiteral("quit"),
         QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
+    const QCommandLineOption autoAnswer(QStringLiteral("auto-answer"),
+        QStringLiteral("Answer every message box as it shows: OK, else No."));
     parser.addOptions({ scenario, plugin, prefs, translations, press, script, answer, record,
-        screenshot, quit });
+        screenshot, quit, autoAnswer });
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return false;
@@ -104,6 +107,7 @@ bool HST_Application::parseArguments(
     options.recordFile = parser.value(record);
     options.screenshotFile = parser.value(screenshot);
     options.quit = parser.isSet(quit);
+    options.autoAnswer = parser.isSet(autoAnswer);
     return true;
 }
 
@@ -115,9 +119,10 @@ HST_Application::HST_Application(const HST_Options& options, QObject* parent)
 
 HST_Application::~HST_Application()
 {
-    // The plug-in's destructor still talks to the host and may write preferences.
+    // The plug-in's destructor still talks to the host and may write preferences, or report a
+    // failure in a box that an automated run must answer.
     if (m_script)
-        m_script->stop();
+        m_script->answerOnly();
     if (m_loader)
         m_loader->release();
     m_window.reset();
@@ -129,7 +134,8 @@ HST_Application::~HST_Application()
 bool HST_Application::isInteractive() const
 {
     return m_options.press.isEmpty() && m_options.scriptFile.isEmpty() && m_options.steps.isEmpty()
-        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit;
+        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit
+        && !m_options.autoAnswer;
 }
 
 PLG_Interface* HST_Application::plugin() const
@@ -217,6 +223,17 @@ int HST_Application::start()
     m_script->setStepTimeout(m_options.stepTimeoutMs);
     m_script->setIdleWindow(
         m_window.get(), [this] { return m_window->isPluginRunning() || !m_pressDone; });
+    HST_MainWindow* window = m_window.get();
+    HST_Host* host = m_host.get();
+    m_script->setHost({ [window] { return window->isPluginRunning(); },
+        [window](const QString& name) { return window->canPress(name); },
+        [window](const QString& name) { window->press(name); },
+        [host](const QJsonObject& world, QString& error) {
+            return host->changeWorld(world, error);
+        } });
+    m_script->setAutoAnswer(m_options.autoAnswer);
+    connect(m_script.get(), &HST_ScriptRunner::acting, this,
+        [host](int step) { host->faults()->setStep(step); });
     connect(m_script.get(), &HST_ScriptRunner::finished, this, &HST_Application::checkFinished,
         Qt::QueuedConnection);
     connect(m_window.get(), &HST_MainWindow::executeFinished, this, &HST_Application::checkFinished,
@@ -225,6 +242,8 @@ int HST_Application::start()
     const QString pluginFile
         = m_options.pluginFile.isEmpty() ? defaultPluginFile() : m_options.pluginFile;
     m_loader.reset(new HST_PluginLoader(pluginFile));
+    // The plug-in may tell something while it loads.
+    m_script->startAnswering();
     if (!m_loader->load(m_host.get(), problem))
         return refuse(PluginFailed, problem);
     m_window->addPlugin(m_loader->plugin());

@@ -33,6 +33,8 @@ struct HST_Options
     QString recordFile;
     QString screenshotFile;
     bool quit = false;
+    // Answer every message box at once (HST_ScriptRunner::setAutoAnswer).
+    bool autoAnswer = false;
     // Run the plug-in's generator connect dialog once the window shows, as the sync dialog's
     // button will (a test entry of the plug-in file).
     // --help: parseArguments leaves the help text in its error and gives true.

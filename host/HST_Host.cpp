@@ -2,6 +2,7 @@
 
 #include "host/HST_CameraState.h"
 #include "host/HST_Document.h"
+#include "host/HST_Faults.h"
 #include "host/HST_HubList.h"
 #include "host/HST_LinkCoreHub.h"
 #include "host/HST_Preferences.h"
@@ -15,6 +16,7 @@
 #include <QFontDatabase>
 #include <QFutureWatcher>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QMdiArea>
 #include <QMutexLocker>
 #include <QProgressDialog>
@@ -73,27 +75,39 @@ HST_Host::HST_Host(
     , m_scriptObject(new QObject(this))
     , m_mainScriptObject(new QObject(this))
     , m_mode(scenario.mode)
-    , m_hubs(new HST_HubList(scenario.hubs, recorder))
+    , m_faults(std::make_unique<HST_Faults>(scenario.faults, recorder))
+    , m_hubs(new HST_HubList(scenario.hubs, recorder, m_faults.get()))
 {
     initResources();
     m_scriptObject->setObjectName(QStringLiteral("app"));
     m_mainScriptObject->setObjectName(QStringLiteral("main"));
     for (auto it = scenario.prefs.begin(); it != scenario.prefs.end(); ++it)
         m_prefs->preset(it.key(), it.value());
-    for (int type : scenario.syncCapableTypes) {
+    setTypeRecords(scenario.syncCapableTypes);
+    addDocuments(scenario.cameras, scenario.files);
+}
+
+void HST_Host::setTypeRecords(const QList<int>& types)
+{
+    m_typeRecords.clear();
+    for (int type : types) {
         m_typeRecords.emplace_back(new APP_CameraTypeRecord);
         m_typeRecords.back()->cameraType = type;
     }
-    for (int i = 0; i < scenario.cameras.size(); ++i) {
+}
+
+void HST_Host::addDocuments(const QList<HST_CameraSpec>& cameras, int files)
+{
+    for (int i = 0; i < cameras.size(); ++i) {
         m_cameras.emplace_back(new HST_CameraState);
         HST_CameraState* camera = m_cameras.back().get();
-        camera->spec = scenario.cameras.at(i);
+        camera->spec = cameras.at(i);
         camera->index = i;
-        camera->recorder = recorder;
+        camera->recorder = m_recorder;
         camera->recorded.store(camera->spec.recorded);
         camera->syncRequired.store(camera->spec.syncRequired);
         for (int d = 0; d < camera->spec.documents; ++d) {
-            m_allDocuments.emplace_back(new HST_Document(m_nextKey, camera, d));
+            m_allDocuments.emplace_back(new HST_Document(m_nextKey, camera, d, m_faults.get()));
             HST_Document* document = m_allDocuments.back().get();
             m_documents.insert(m_nextKey++, document);
             if (!camera->primary) {
@@ -102,10 +116,63 @@ HST_Host::HST_Host(
             }
         }
     }
-    for (int i = 0; i < scenario.files; ++i)
+    for (int i = 0; i < files; ++i)
         addFileDocument();
     if (!m_documents.isEmpty())
         m_currentKey = m_documents.firstKey();
+}
+
+bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
+{
+    for (const char* fixed : { "visa", "generator", "faults" }) {
+        if (world.contains(QLatin1String(fixed))) {
+            error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
+            return false;
+        }
+    }
+    HST_Scenario part;
+    if (!HST_Scenario::fromJson(
+            QJsonDocument(world).toJson(), QStringLiteral("world"), part, error))
+        return false;
+    const auto has = [&world](const char* key) { return world.contains(QLatin1String(key)); };
+    for (auto it = part.prefs.begin(); it != part.prefs.end(); ++it)
+        m_prefs->preset(it.key(), it.value());
+    if (has("syncCapableTypes"))
+        setTypeRecords(part.syncCapableTypes);
+    if (has("applySync"))
+        m_scenario.applySync = part.applySync;
+    if (has("hubs")) {
+        // A hub the plug-in still points to stays alive.
+        m_retiredHubs.push_back(std::move(m_hubs));
+        m_hubs.reset(new HST_HubList(part.hubs, m_recorder, m_faults.get()));
+        m_scenario.hubs = part.hubs;
+    }
+    if (has("cameras") || has("files")) {
+        if (has("cameras"))
+            m_scenario.cameras = part.cameras;
+        if (has("files"))
+            m_scenario.files = part.files;
+        // The documents and cameras of before stay alive, like a removed document.
+        for (auto& camera : m_cameras)
+            m_retiredCameras.push_back(std::move(camera));
+        m_cameras.clear();
+        m_cameraByPointer.clear();
+        m_documents.clear();
+        m_currentKey = INVALID_DOCKEY;
+        m_fileCount = 0;
+        addDocuments(m_scenario.cameras, m_scenario.files);
+    }
+    m_recorder->record(QStringLiteral("world"),
+        { { QStringLiteral("keys"), QJsonArray::fromStringList(world.keys()) } });
+    if (has("mode"))
+        setMode(part.mode);
+    emit stateChanged();
+    return true;
+}
+
+void HST_Host::hostCall(const char* operation)
+{
+    m_faults->enter(operation);
 }
 
 HST_Host::~HST_Host()
@@ -145,7 +212,8 @@ void HST_Host::setMode(int mode)
 
 int HST_Host::addFileDocument()
 {
-    m_allDocuments.emplace_back(new HST_Document(m_nextKey, nullptr, m_fileCount++));
+    m_allDocuments.emplace_back(
+        new HST_Document(m_nextKey, nullptr, m_fileCount++, m_faults.get()));
     m_documents.insert(m_nextKey, m_allDocuments.back().get());
     emit stateChanged();
     return m_nextKey++;
@@ -153,34 +221,40 @@ int HST_Host::addFileDocument()
 
 void HST_Host::updateUI(unsigned mask, bool flag)
 {
+    hostCall("updateUI");
     m_recorder->record(QStringLiteral("updateUI"),
         { { QStringLiteral("mask"), double(mask) }, { QStringLiteral("flag"), flag } });
 }
 
 QVariant& HST_Host::defaultVariant(QVariant& out, const QString& key)
 {
+    hostCall("defaultVariant");
     out = HST_Preferences::hostDefault(key);
     return out;
 }
 
 void HST_Host::restoreDefault(const QString& key)
 {
+    hostCall("restoreDefault");
     m_prefs->remove(key);
     m_recorder->record(QStringLiteral("restoreDefault"), { { QStringLiteral("key"), key } });
 }
 
 QWidget* HST_Host::getMainWindow()
 {
+    hostCall("getMainWindow");
     return m_mainWindow;
 }
 
 QWidget* HST_Host::parentWidget()
 {
+    hostCall("parentWidget");
     return m_mainWindow;
 }
 
 QObject* HST_Host::mdiWidget()
 {
+    hostCall("mdiWidget");
     m_recorder->record(QStringLiteral("mdiWidget"), {});
     auto* area = new QMdiArea;
     area->setObjectName(QStringLiteral("hostMdiArea"));
@@ -217,6 +291,7 @@ QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessag
 
 void HST_Host::attachMediator(QWebView* view, JS_Mediator* mediator)
 {
+    hostCall("attachMediator");
     QObject* object = APP_mediatorObject(mediator);
     if (!view || !object)
         return;
@@ -236,6 +311,12 @@ void HST_Host::attachMediator(QWebView* view, JS_Mediator* mediator)
 
 void HST_Host::reportException(const std::exception& e)
 {
+    hostCall("reportException");
+    showReport(e);
+}
+
+void HST_Host::showReport(const std::exception& e)
+{
     const QString text = QString::fromUtf8(e.what());
     QJsonObject event { { QStringLiteral("text"), text } };
     // Proves the type survived the library boundary, not only the text.
@@ -251,64 +332,62 @@ void HST_Host::reportException(const std::exception& e)
 
 void HST_Host::showInformation(const QString& text, QWidget* parent)
 {
+    hostCall("showInformation");
     runMessageBox(QStringLiteral("information"), QMessageBox::Information, text, {}, parent, false);
 }
 
 void HST_Host::showInformationList(const QString& text, const QStringList& details, int)
 {
+    hostCall("showInformationList");
     runMessageBox(
         QStringLiteral("informationList"), QMessageBox::Information, text, details, nullptr, false);
 }
 
 void HST_Host::showWarning(const QString& text, QWidget* parent)
 {
+    hostCall("showWarning");
     runMessageBox(QStringLiteral("warning"), QMessageBox::Warning, text, {}, parent, false);
 }
 
 void HST_Host::showErrorList(const QString& text, const QStringList& details, int)
 {
+    hostCall("showErrorList");
     runMessageBox(
         QStringLiteral("errorList"), QMessageBox::Critical, text, details, nullptr, false);
 }
 
 void HST_Host::showError(const QString& text, QWidget* parent)
 {
+    hostCall("showError");
     runMessageBox(QStringLiteral("error"), QMessageBox::Critical, text, {}, parent, false);
 }
 
 bool HST_Host::confirm(const QString& text, QWidget* parent, const QVariantMap&)
 {
+    hostCall("confirm");
     return runMessageBox(QStringLiteral("confirm"), QMessageBox::Question, text, {}, parent, true)
         == QMessageBox::Ok;
 }
 
 QStringList& HST_Host::fontList(QStringList& out)
 {
+    hostCall("fontList");
     out = QFontDatabase().families();
     return out;
 }
 
 QString HST_Host::translate(const QString& sourceText, int)
 {
+    hostCall("translate");
     if (!m_translator)
         return sourceText;
     const QString translated = m_translator->translate(translationContext, sourceText.toUtf8());
     return translated.isEmpty() ? sourceText : translated;
 }
 
-void HST_Host::failIfAsked(const char* operation)
-{
-    const QString message = m_scenario.faults.value(QLatin1String(operation));
-    if (message.isEmpty())
-        return;
-    m_recorder->record(QStringLiteral("fault"),
-        { { QStringLiteral("operation"), operation }, { QStringLiteral("text"), message } });
-    throw APP_Exception(message, 1);
-}
-
 void HST_Host::syncCapableTypes(QList<APP_CameraTypeRecord*>& out)
 {
-    failIfAsked("syncCapableTypes");
+    hostCall("syncCapableTypes");
     out.clear();
     for (const auto& record : m_typeRecords)
         out.append(record.get());
@@ -316,57 +395,68 @@ void HST_Host::syncCapableTypes(QList<APP_CameraTypeRecord*>& out)
 
 QVariant HST_Host::getPrefVariant(const QString& key, const QVariant& defaultValue)
 {
+    hostCall("getPrefVariant");
     return m_prefs->value(key, defaultValue);
 }
 
 int HST_Host::getPrefInt(const QString& key, const QVariant& defaultValue)
 {
+    hostCall("getPrefInt");
     return m_prefs->value(key, defaultValue).toInt();
 }
 
 bool HST_Host::getPrefBool(const QString& key, const QVariant& defaultValue)
 {
+    hostCall("getPrefBool");
     return m_prefs->value(key, defaultValue).toBool();
 }
 
 float HST_Host::getPrefFloat(const QString& key, const QVariant& defaultValue)
 {
+    hostCall("getPrefFloat");
     return m_prefs->value(key, defaultValue).toFloat();
 }
 
 QString& HST_Host::getPrefString(QString& out, const QString& key, const QVariant& defaultValue)
 {
+    hostCall("getPrefString");
     out = m_prefs->value(key, defaultValue).toString();
     return out;
 }
 
 void HST_Host::setPrefVariant(const QString& key, const QVariant& value)
 {
+    hostCall("setPrefVariant");
     m_prefs->setValue(key, value);
 }
 
 void HST_Host::setPrefInt(const QString& key, int value)
 {
+    hostCall("setPrefInt");
     m_prefs->setValue(key, value);
 }
 
 void HST_Host::setPrefBool(const QString& key, bool value)
 {
+    hostCall("setPrefBool");
     m_prefs->setValue(key, value);
 }
 
 void HST_Host::setPrefFloat(const QString& key, float value)
 {
+    hostCall("setPrefFloat");
     m_prefs->setValue(key, value);
 }
 
 void HST_Host::setPrefString(const QString& key, const QString& value)
 {
+    hostCall("setPrefString");
     m_prefs->setValue(key, value);
 }
 
 void HST_Host::endModalDialog()
 {
+    hostCall("endModalDialog");
     --m_modalDepth;
     m_recorder->record(QStringLiteral("modal"),
         { { QStringLiteral("op"), "end" }, { QStringLiteral("depth"), m_modalDepth } });
@@ -374,6 +464,7 @@ void HST_Host::endModalDialog()
 
 void HST_Host::beginModalDialog()
 {
+    hostCall("beginModalDialog");
     ++m_modalDepth;
     m_recorder->record(QStringLiteral("modal"),
         { { QStringLiteral("op"), "begin" }, { QStringLiteral("depth"), m_modalDepth } });
@@ -381,12 +472,14 @@ void HST_Host::beginModalDialog()
 
 QString& HST_Host::versionText(QString& out)
 {
+    hostCall("versionText");
     out = QStringLiteral("tarvix4host 1.0");
     return out;
 }
 
 void HST_Host::runWithBusyDialog(const QString& text, QFutureWatcher<void>* watcher)
 {
+    hostCall("runWithBusyDialog");
     m_recorder->record(QStringLiteral("busy"), { { QStringLiteral("text"), text } });
     {
         QProgressDialog dialog(text, QString(), 0, 0, m_mainWindow);
@@ -408,6 +501,7 @@ void HST_Host::runWithBusyDialog(const QString& text, QFutureWatcher<void>* watc
 
 int HST_Host::documentKey(DOC_Interface* doc)
 {
+    hostCall("documentKey");
     for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
         if (it.value() == doc)
             return it.key();
@@ -417,16 +511,24 @@ int HST_Host::documentKey(DOC_Interface* doc)
 
 DOC_Interface* HST_Host::document(int key, bool)
 {
+    hostCall("document");
     return m_documents.value(key, nullptr);
 }
 
 void HST_Host::setCurrentDocument(int key, bool)
 {
+    hostCall("setCurrentDocument");
     if (m_documents.contains(key))
         m_currentKey = key;
 }
 
 void HST_Host::removeDocument(int key)
+{
+    hostCall("removeDocument");
+    closeDocument(key);
+}
+
+void HST_Host::closeDocument(int key)
 {
     if (!m_documents.remove(key))
         return;
@@ -438,6 +540,7 @@ void HST_Host::removeDocument(int key)
 
 void HST_Host::documentsChanged(bool refresh)
 {
+    hostCall("documentsChanged");
     m_recorder->record(
         QStringLiteral("documentsChanged"), { { QStringLiteral("refresh"), refresh } });
     emit stateChanged();
@@ -445,18 +548,21 @@ void HST_Host::documentsChanged(bool refresh)
 
 QList<int>& HST_Host::documentKeysForList(QList<int>& out, int)
 {
+    hostCall("documentKeysForList");
     out = m_documents.keys();
     return out;
 }
 
 QList<int>& HST_Host::openedDocumentKeys(QList<int>& out, bool, bool)
 {
+    hostCall("openedDocumentKeys");
     out = m_documents.keys();
     return out;
 }
 
 QList<int>& HST_Host::liveDocumentKeys(QList<int>& out, int)
 {
+    hostCall("liveDocumentKeys");
     out.clear();
     for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
         if (it.value()->cameraState())
@@ -467,17 +573,20 @@ QList<int>& HST_Host::liveDocumentKeys(QList<int>& out, int)
 
 QList<int> HST_Host::documentKeys(int)
 {
+    hostCall("documentKeys");
     return m_documents.keys();
 }
 
 QList<int>& HST_Host::orderedKeys(QList<int>& out)
 {
+    hostCall("orderedKeys");
     out = m_documents.keys();
     return out;
 }
 
 QList<DOC_Interface*>& HST_Host::allDocuments(QList<DOC_Interface*>& out)
 {
+    hostCall("allDocuments");
     out.clear();
     for (HST_Document* document : qAsConst(m_documents))
         out.append(document);
@@ -487,6 +596,7 @@ QList<DOC_Interface*>& HST_Host::allDocuments(QList<DOC_Interface*>& out)
 void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor,
     bool external, bool generatorControl, int syncIn, int frequency, int polarity)
 {
+    hostCall("applySync");
     // Runs on the sync worker: only immutable scenario data, atomics and the recorder here.
     QJsonArray addresses;
     QList<HST_CameraState*> states;
@@ -539,7 +649,7 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
 
 bool HST_Host::isSyncRequired()
 {
-    failIfAsked("isSyncRequired");
+    hostCall("isSyncRequired");
     for (const auto& camera : m_cameras) {
         if (camera->syncRequired.load())
             return true;
@@ -549,62 +659,72 @@ bool HST_Host::isSyncRequired()
 
 void HST_Host::setActive(bool active)
 {
-    failIfAsked("setActive");
+    hostCall("setActive");
     m_hubs->setActive(active);
 }
 
 void HST_Host::commitSearchList()
 {
+    hostCall("commitSearchList");
     m_hubs->commitSearchList();
 }
 
 void HST_Host::rollbackSearchList()
 {
+    hostCall("rollbackSearchList");
     m_hubs->rollbackSearchList();
 }
 
 void HST_Host::connectAll(int kind, bool wait)
 {
-    failIfAsked("connectAll");
+    hostCall("connectAll");
     m_hubs->connectAll(kind, wait);
 }
 
 void HST_Host::shutdown()
 {
+    hostCall("shutdown");
     m_hubs->shutdown();
 }
 
 void HST_Host::addSearchAddress(const QString& ip)
 {
+    hostCall("addSearchAddress");
     m_hubs->addSearchAddress(ip);
 }
 
 void HST_Host::removeSearchAddress(const QString& ip)
 {
+    hostCall("removeSearchAddress");
     m_hubs->removeSearchAddress(ip);
 }
 
 DOC_LinkCore* HST_Host::device(const QString& ip)
 {
+    hostCall("device");
     return m_hubs->hub(ip);
 }
 
 void HST_Host::addresses(QStringList& out, bool)
 {
+    hostCall("addresses");
     out = m_hubs->addresses();
 }
 
 void HST_Host::changeAddress(const QString& oldIp, const QString& newIp)
 {
+    hostCall("changeAddress");
     m_hubs->changeAddress(oldIp, newIp);
 }
 
 bool HST_Host::hasUnappliedChanges()
 {
+    hostCall("hasUnappliedChanges");
     return m_hubs->hasUnappliedChanges();
 }
 
 void HST_Host::applyChanges()
 {
+    hostCall("applyChanges");
     m_hubs->applyChanges();
 }

@@ -14,6 +14,7 @@
 #include <vector>
 
 class HST_Document;
+class HST_Faults;
 class HST_HubList;
 class HST_Preferences;
 class HST_Recorder;
@@ -41,8 +42,19 @@ public:
     void setMode(int mode);
     // A document without a camera; gives its key.
     int addFileDocument();
+    // Applies the keys of a scenario that the object holds, as if the world had changed
+    // (cameras and files replace all documents); false with error set when refused.
+    bool changeWorld(const QJsonObject& world, QString& error);
     HST_HubList* hubs() const { return m_hubs.get(); }
     int modalDepth() const { return m_modalDepth; }
+    HST_Faults* faults() const { return m_faults.get(); }
+
+    // The host's own view of its state, for its window: not operations of the plug-in's, so
+    // they are neither recorded nor faulted.
+    int mode() const { return m_mode; }
+    QList<HST_Document*> openDocuments() const { return m_documents.values(); }
+    void closeDocument(int key);
+    void showReport(const std::exception& e);
 
 signals:
     // The mode or the documents changed: plug-ins' enabled state must be asked again.
@@ -53,19 +65,47 @@ public:
     void updateUI(unsigned mask, bool flag) override;
     QVariant& defaultVariant(QVariant& out, const QString& key) override;
     void restoreDefault(const QString& key) override;
-    bool isModalAnnounced() override { return true; }
-    int saveTargetKind() override { return m_mode; }
-    bool isCameraMode() override { return m_mode == 0; }
-    bool isMemoryMode() override { return m_mode == 1; }
-    bool isFileMode() override { return m_mode == 2; }
+    bool isModalAnnounced() override
+    {
+        hostCall("isModalAnnounced");
+        return true;
+    }
+    int saveTargetKind() override
+    {
+        hostCall("saveTargetKind");
+        return m_mode;
+    }
+    bool isCameraMode() override
+    {
+        hostCall("isCameraMode");
+        return m_mode == 0;
+    }
+    bool isMemoryMode() override
+    {
+        hostCall("isMemoryMode");
+        return m_mode == 1;
+    }
+    bool isFileMode() override
+    {
+        hostCall("isFileMode");
+        return m_mode == 2;
+    }
     QWidget* getMainWindow() override;
     QWidget* parentWidget() override;
     // A new, empty MDI area each call: the page that embeds it takes it and deletes it with
     // itself, so one widget can't be handed to two pages.
     QObject* mdiWidget() override;
     // Plain objects: pages find "app" and "main", with nothing on them yet.
-    QObject* scriptObject() override { return m_scriptObject; }
-    QObject* mainScriptObject() override { return m_mainScriptObject; }
+    QObject* scriptObject() override
+    {
+        hostCall("scriptObject");
+        return m_scriptObject;
+    }
+    QObject* mainScriptObject() override
+    {
+        hostCall("mainScriptObject");
+        return m_mainScriptObject;
+    }
     // Stores the view in the mediator's property "webView" (or by its invokable
     // setWebView(QWebView*)) and publishes the mediator under its object name, again whenever
     // the page's window object is cleared.
@@ -81,7 +121,11 @@ public:
     QStringList& fontList(QStringList& out) override;
     QString translate(const QString& sourceText, int reserved = 0) override;
     void syncCapableTypes(QList<APP_CameraTypeRecord*>& out) override;
-    bool isReady() override { return true; }
+    bool isReady() override
+    {
+        hostCall("isReady");
+        return true;
+    }
     QVariant getPrefVariant(const QString& key, const QVariant& defaultValue) override;
     int getPrefInt(const QString& key, const QVariant& defaultValue) override;
     bool getPrefBool(const QString& key, const QVariant& defaultValue) override;
@@ -92,7 +136,11 @@ public:
     void setPrefBool(const QString& key, bool value) override;
     void setPrefFloat(const QString& key, float value) override;
     void setPrefString(const QString& key, const QString& value) override;
-    bool isModalDialogOpening() override { return m_modalDepth > 0; }
+    bool isModalDialogOpening() override
+    {
+        hostCall("isModalDialogOpening");
+        return m_modalDepth > 0;
+    }
     void endModalDialog() override;
     void beginModalDialog() override;
     QString& versionText(QString& out) override;
@@ -101,21 +149,45 @@ public:
     // APP_DocumentList
     int documentKey(DOC_Interface* doc) override;
     DOC_Interface* document(int key, bool connectedOnly = true) override;
-    DOC_Interface* documentForList(int key) override { return document(key); }
-    DOC_Interface* documentByKey(int key) override { return document(key); }
+    DOC_Interface* documentForList(int key) override
+    {
+        hostCall("documentForList");
+        return document(key);
+    }
+    DOC_Interface* documentByKey(int key) override
+    {
+        hostCall("documentByKey");
+        return document(key);
+    }
     void setCurrentDocument(int key, bool update = true) override;
-    DOC_Interface* currentDocument() override { return document(m_currentKey); }
-    int currentKey() override { return m_currentKey; }
+    DOC_Interface* currentDocument() override
+    {
+        hostCall("currentDocument");
+        return document(m_currentKey);
+    }
+    int currentKey() override
+    {
+        hostCall("currentKey");
+        return m_currentKey;
+    }
     void removeDocument(int key) override;
     void documentsChanged(bool refresh = true) override;
-    int selectedDocumentCount() override { return m_documents.size(); }
+    int selectedDocumentCount() override
+    {
+        hostCall("selectedDocumentCount");
+        return m_documents.size();
+    }
     QList<int>& documentKeysForList(QList<int>& out, int filter = 1) override;
     QList<int>& openedDocumentKeys(
         QList<int>& out, bool first = true, bool second = false) override;
     QList<int>& liveDocumentKeys(QList<int>& out, int filter = 0) override;
     QList<int> documentKeys(int filter = 0) override;
     QList<int>& orderedKeys(QList<int>& out) override;
-    QMutex* documentMutex() override { return &m_documentMutex; }
+    QMutex* documentMutex() override
+    {
+        hostCall("documentMutex");
+        return &m_documentMutex;
+    }
     QList<DOC_Interface*>& allDocuments(QList<DOC_Interface*>& out) override;
 
     // APP_CameraManager
@@ -137,9 +209,12 @@ public:
     bool hasUnappliedChanges() override;
     void applyChanges() override;
 
+protected:
+    void hostCall(const char* operation) override;
+
 private:
-    // Throws the scenario's fault of that operation, if it names one.
-    void failIfAsked(const char* operation);
+    void setTypeRecords(const QList<int>& types);
+    void addDocuments(const QList<HST_CameraSpec>& cameras, int files);
     // Records the box with the text of the button that closed it.
     QMessageBox::StandardButton runMessageBox(const QString& kind, QMessageBox::Icon icon,
         const QString& text, const QStringList& details, QWidget* parent, bool withCancel);
@@ -154,6 +229,7 @@ private:
     int m_mode = 0;
     int m_modalDepth = 0;
 
+    std::unique_ptr<HST_Faults> m_faults;
     std::vector<std::unique_ptr<HST_CameraState>> m_cameras;
     // All documents ever made; a removed one stays alive, since a dialog may still hold it.
     std::vector<std::unique_ptr<HST_Document>> m_allDocuments;
@@ -166,4 +242,6 @@ private:
     std::vector<std::unique_ptr<APP_CameraTypeRecord>> m_typeRecords;
 
     std::unique_ptr<HST_HubList> m_hubs;
+    std::vector<std::unique_ptr<HST_CameraState>> m_retiredCameras;
+    std::vector<std::unique_ptr<HST_HubList>> m_retiredHubs;
 };

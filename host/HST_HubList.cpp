@@ -8,11 +8,12 @@
 #include <QMutexLocker>
 #include <QThread>
 
-HST_HubList::HST_HubList(const QList<HST_HubSpec>& hubs, HST_Recorder* recorder)
+HST_HubList::HST_HubList(const QList<HST_HubSpec>& hubs, HST_Recorder* recorder, HST_Faults* faults)
     : m_recorder(recorder)
+    , m_faults(faults)
 {
     for (const HST_HubSpec& spec : hubs) {
-        m_hubs.emplace_back(new HST_LinkCoreHub(spec));
+        m_hubs.emplace_back(new HST_LinkCoreHub(spec, m_faults));
         m_addresses.append(spec.ip);
     }
     m_editAddresses = m_addresses;
@@ -112,7 +113,7 @@ void HST_HubList::addSearchAddress(const QString& ip)
             spec.firmware.clear();
             spec.connects = HST_HubConnects::Never;
             spec.connected = false;
-            m_hubs.emplace_back(new HST_LinkCoreHub(spec));
+            m_hubs.emplace_back(new HST_LinkCoreHub(spec, m_faults));
         }
     }
     record(QStringLiteral("addSearchAddress"), { { QStringLiteral("ip"), ip } });

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+class HST_Faults;
 class HST_LinkCoreHub;
 class HST_Recorder;
 
@@ -17,7 +18,8 @@ class HST_Recorder;
 class HST_HubList
 {
 public:
-    HST_HubList(const QList<HST_HubSpec>& hubs, HST_Recorder* recorder);
+    HST_HubList(
+        const QList<HST_HubSpec>& hubs, HST_Recorder* recorder, HST_Faults* faults = nullptr);
     ~HST_HubList();
 
     HST_LinkCoreHub* hub(const QString& ip);
@@ -41,6 +43,7 @@ private:
 
     QMutex m_mutex;
     HST_Recorder* m_recorder;
+    HST_Faults* m_faults;
     std::vector<std::unique_ptr<HST_LinkCoreHub>> m_hubs;
     QStringList m_addresses;
     QStringList m_editAddresses;

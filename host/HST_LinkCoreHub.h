@@ -5,12 +5,15 @@
 
 #include <QMutex>
 
+class HST_Faults;
+
 // One simulated network hub. A frequency set by the plug-in stays pending, whatever its value,
 // until the host applies it after a successful sync.
 class HST_LinkCoreHub final : public DOC_LinkCore
 {
 public:
-    explicit HST_LinkCoreHub(const HST_HubSpec& spec);
+    // faults: where every operation of the hub starts (HST_Faults); may be null.
+    explicit HST_LinkCoreHub(const HST_HubSpec& spec, HST_Faults* faults = nullptr);
 
     QString ip() const;
     void setIp(const QString& ip);
@@ -30,6 +33,9 @@ public:
     bool isConnected() override;
 
 private:
+    void hostCall(const char* operation) const;
+
+    HST_Faults* m_faults;
     mutable QMutex m_mutex;
     HST_HubSpec m_spec;
     int m_pendingFrequency = -1;

@@ -30,7 +30,7 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     m_modeBox->setObjectName(QStringLiteral("host_mode"));
     m_modeBox->addItems(
         { QStringLiteral("Live"), QStringLiteral("Memory"), QStringLiteral("File") });
-    m_modeBox->setCurrentIndex(host->saveTargetKind());
+    m_modeBox->setCurrentIndex(host->mode());
     stateBar->addWidget(m_modeBox);
     connect(m_modeBox, QOverload<int>::of(&QComboBox::activated), host, &HST_Host::setMode);
     QAction* close = stateBar->addAction(QStringLiteral("Close document"));
@@ -38,7 +38,7 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     connect(close, &QAction::triggered, this, [this] {
         const int row = m_documentTable->currentRow();
         if (row >= 0)
-            m_host->removeDocument(m_documentTable->item(row, 0)->text().toInt());
+            m_host->closeDocument(m_documentTable->item(row, 0)->text().toInt());
     });
 
     m_documentTable->setObjectName(QStringLiteral("host_documents"));
@@ -85,16 +85,50 @@ bool HST_MainWindow::press(const QString& name)
     return true;
 }
 
+void HST_MainWindow::recordLeak(const char* operation, const std::exception& e)
+{
+    // A plug-in must end its own exceptions; the host survives one, and says so.
+    qCritical("A plug-in let an exception out of %s: %s", operation, e.what());
+    m_host->recorder()->record(QStringLiteral("leak"),
+        { { QStringLiteral("operation"), operation },
+            { QStringLiteral("text"), QString::fromUtf8(e.what()) } });
+}
+
+bool HST_MainWindow::canPress(const QString& name)
+{
+    // Asked afresh, as a host does when it redraws its tool bar.
+    PLG_Interface* plugin = m_plugins.value(name, nullptr);
+    QAction* action = pluginAction(name);
+    if (!plugin || !action)
+        return false;
+    action->setEnabled(askEnabled(name, plugin));
+    return action->isEnabled();
+}
+
+bool HST_MainWindow::askEnabled(const QString& name, PLG_Interface* plugin)
+{
+    bool enabled = false;
+    try {
+        enabled = plugin->isEnabled();
+    } catch (const std::exception& e) {
+        recordLeak("isEnabled", e);
+    }
+    m_host->recorder()->record(QStringLiteral("isEnabled"),
+        { { QStringLiteral("name"), name }, { QStringLiteral("result"), enabled } });
+    return enabled;
+}
+
 void HST_MainWindow::refreshState()
 {
-    m_modeBox->setCurrentIndex(m_host->saveTargetKind());
+    m_modeBox->setCurrentIndex(m_host->mode());
     fillDocuments();
     for (auto it = m_plugins.begin(); it != m_plugins.end(); ++it) {
-        const bool enabled = it.value()->isEnabled();
-        m_host->recorder()->record(QStringLiteral("isEnabled"),
-            { { QStringLiteral("name"), it.key() }, { QStringLiteral("result"), enabled } });
-        m_actions.value(it.key())->setEnabled(enabled);
-        it.value()->update();
+        m_actions.value(it.key())->setEnabled(askEnabled(it.key(), it.value()));
+        try {
+            it.value()->update();
+        } catch (const std::exception& e) {
+            recordLeak("update", e);
+        }
     }
 }
 
@@ -107,7 +141,8 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
     try {
         plugin->execute();
     } catch (const std::exception& e) {
-        m_host->reportException(e);
+        recordLeak("execute", e);
+        m_host->showReport(e);
     } catch (...) {
         qCritical("A plug-in let an exception of unknown type out of execute");
     }
@@ -119,15 +154,13 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
 
 void HST_MainWindow::fillDocuments()
 {
-    const QList<int> keys = m_host->documentKeys(0);
-    m_documentTable->setRowCount(keys.size());
-    for (int row = 0; row < keys.size(); ++row) {
-        auto* document = static_cast<HST_Document*>(m_host->document(keys.at(row)));
+    const QList<HST_Document*> documents = m_host->openDocuments();
+    m_documentTable->setRowCount(documents.size());
+    for (int row = 0; row < documents.size(); ++row) {
+        const HST_Document* document = documents.at(row);
         const HST_CameraState* camera = document->cameraState();
-        QString name;
-        const QStringList cells { QString::number(keys.at(row)),
-            camera ? camera->spec.name : document->baseName(name),
-            camera ? camera->spec.ip : QString(),
+        const QStringList cells { QString::number(document->key()),
+            camera ? camera->spec.name : document->fileName(), camera ? camera->spec.ip : QString(),
             camera ? QString::number(camera->spec.type) : QString(),
             camera ? camera->spec.model : QStringLiteral("(file)") };
         for (int column = 0; column < cells.size(); ++column)

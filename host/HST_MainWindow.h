@@ -3,6 +3,8 @@
 #include <QMainWindow>
 #include <QMap>
 
+#include <exception>
+
 class HST_Host;
 class PLG_Interface;
 class QAction;
@@ -24,6 +26,8 @@ public:
     // Runs the plug-in's execute, as a click on its button would; false if the button is
     // unknown or disabled.
     bool press(const QString& name);
+    // Asks the plug-in whether it is enabled now; false when there is no such button.
+    bool canPress(const QString& name);
     bool isPluginRunning() const { return m_running > 0; }
 
 signals:
@@ -33,6 +37,9 @@ public slots:
     void refreshState();
 
 private:
+    bool askEnabled(const QString& name, PLG_Interface* plugin);
+    void recordLeak(const char* operation, const std::exception& e);
+
     void runPlugin(PLG_Interface* plugin, const QString& name);
     void fillDocuments();
 

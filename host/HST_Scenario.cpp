@@ -333,11 +333,31 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     }
     if (root.contains(QLatin1String("faults"))) {
         const QJsonObject faults = readObject(root, QString(), QStringLiteral("faults"));
-        checkKeys(faults, QStringLiteral("faults"),
-            { "syncCapableTypes", "isSyncRequired", "setActive", "connectAll" });
-        for (auto it = faults.begin(); it != faults.end(); ++it)
-            out.faults.insert(
-                it.key(), readString(faults, QStringLiteral("faults"), it.key(), QString()));
+        // Any operation the host offers the plug-in: hub and document operations carry the
+        // prefix "hub." or "document.".
+        static const QRegularExpression operationName(
+            QStringLiteral("^((hub|document)\\.)?[a-z][A-Za-z0-9]*$"));
+        for (auto it = faults.begin(); it != faults.end(); ++it) {
+            const QString path = join(QStringLiteral("faults"), it.key());
+            if (!operationName.match(it.key()).hasMatch())
+                refuse(path, QStringLiteral("not the name of a host operation"));
+            HST_Fault fault;
+            if (it.value().isObject()) {
+                const QJsonObject object = it.value().toObject();
+                checkKeys(object, path, { "text", "steps" });
+                fault.text = readString(object, path, QStringLiteral("text"), QString());
+                fault.steps = readIntList(object, path, QStringLiteral("steps"));
+                for (int step : qAsConst(fault.steps))
+                    if (step < 0)
+                        refuse(
+                            join(path, QStringLiteral("steps")), QStringLiteral("a negative step"));
+            } else {
+                fault.text = readString(faults, QStringLiteral("faults"), it.key(), QString());
+            }
+            if (fault.text.isEmpty())
+                refuse(path, QStringLiteral("no text"));
+            out.faults.insert(it.key(), fault);
+        }
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/HST_Fault.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QList>
@@ -66,8 +68,8 @@ public:
     // The simulated signal generator the host starts (HST_GeneratorSimulator); checked keys.
     bool hasGenerator = false;
     QJsonObject generator;
-    // Test hook: host operation -> message of the APP_Exception it throws.
-    QMap<QString, QString> faults;
+    // Test hook: host operation -> the APP_Exception it throws, and when.
+    QMap<QString, HST_Fault> faults;
     // Where the scenario came from, for messages.
     QString source;
 

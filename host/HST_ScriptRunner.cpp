@@ -11,7 +11,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QWebFrame>
@@ -35,6 +37,24 @@ bool isBusyDialog(QWidget* widget)
 template <typename Action> void post(QObject* target, Action action)
 {
     QMetaObject::invokeMethod(target, action, Qt::QueuedConnection);
+}
+
+QAbstractButton* findButton(const QString& target, QWidget* window)
+{
+    const QList<QAbstractButton*> buttons = window->findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons) {
+        const bool matches
+            = button->objectName() == target || button->text().remove(QLatin1Char('&')) == target;
+        if (matches && button->isVisible() && button->isEnabled())
+            return button;
+    }
+    return nullptr;
+}
+
+// A window the script acts in: not a message box, not a busy dialog.
+bool isDialogWindow(QWidget* window)
+{
+    return window && !qobject_cast<QMessageBox*>(window) && !isBusyDialog(window);
 }
 
 } // namespace
@@ -69,8 +89,15 @@ bool HST_ScriptRunner::parse(
         const QJsonValue value = step.begin().value();
         bool ok = false;
         if (kind == QLatin1String("click") || kind == QLatin1String("js")
-            || kind == QLatin1String("screenshot"))
+            || kind == QLatin1String("screenshot") || kind == QLatin1String("press")
+            || kind == QLatin1String("open"))
             ok = value.isString() && !value.toString().isEmpty();
+        else if (kind == QLatin1String("visit"))
+            ok = value.isArray() && value.toArray().size() == 2 && value.toArray().at(0).isString()
+                && !value.toArray().at(0).toString().isEmpty()
+                && (value.toArray().at(1).isString() || value.toArray().at(1).isNull());
+        else if (kind == QLatin1String("world"))
+            ok = value.isObject();
         else if (kind == QLatin1String("wait"))
             ok = value.isDouble() && value.toDouble() >= 0;
         else if (kind == QLatin1String("set"))
@@ -103,15 +130,29 @@ void HST_ScriptRunner::setIdleWindow(QWidget* window, std::function<bool()> busy
     m_busy = std::move(busy);
 }
 
+void HST_ScriptRunner::startAnswering()
+{
+    if (m_autoAnswer)
+        m_timer.start();
+}
+
+void HST_ScriptRunner::answerOnly()
+{
+    m_timer.stop();
+    m_finished = true;
+    startAnswering();
+}
+
 void HST_ScriptRunner::start()
 {
+    m_started = true;
     m_index = 0;
     m_finished = m_steps.isEmpty();
     m_failure.clear();
     m_stepClock.start();
     if (m_finished)
         emit finished(true);
-    else
+    if (!m_finished || m_autoAnswer)
         m_timer.start();
 }
 
@@ -121,7 +162,13 @@ void HST_ScriptRunner::poll()
         closeModalWindows();
         return;
     }
-    if (m_finished)
+    if (m_autoAnswer) {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            answer(box);
+            return;
+        }
+    }
+    if (!m_started || m_finished)
         return;
     const QJsonObject step = m_steps.at(m_index).toObject();
     if (step.contains(QLatin1String("wait"))) {
@@ -149,6 +196,14 @@ HST_ScriptRunner::Result HST_ScriptRunner::act(const QJsonObject& step, QWidget*
     const QJsonValue value = step.begin().value();
     if (kind == QLatin1String("screenshot"))
         return screenshot(value.toString(), window);
+    if (kind == QLatin1String("press"))
+        return pressStep(value.toString(), window, 1);
+    if (kind == QLatin1String("open"))
+        return pressStep(value.toString(), window, 3);
+    if (kind == QLatin1String("world"))
+        return changeWorld(value.toObject(), window);
+    if (kind == QLatin1String("visit"))
+        return visit(value.toArray(), window);
     if (!window)
         return Result::Waiting;
     if (kind == QLatin1String("click"))
@@ -158,22 +213,137 @@ HST_ScriptRunner::Result HST_ScriptRunner::act(const QJsonObject& step, QWidget*
     return runScript(value.toString(), window);
 }
 
+template <typename Action> void HST_ScriptRunner::postAction(Action action)
+{
+    emit acting(m_index + 1);
+    post(this, action);
+}
+
 HST_ScriptRunner::Result HST_ScriptRunner::click(const QString& target, QWidget* window)
 {
-    const QList<QAbstractButton*> buttons = window->findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons) {
-        const bool matches
-            = button->objectName() == target || button->text().remove(QLatin1Char('&')) == target;
-        if (matches && button->isVisible() && button->isEnabled()) {
-            QPointer<QAbstractButton> guarded(button);
-            post(this, [guarded] {
-                if (guarded)
-                    guarded->click();
-            });
-            return Result::Done;
-        }
+    QPointer<QAbstractButton> guarded(findButton(target, window));
+    if (!guarded)
+        return Result::Waiting;
+    postAction([guarded] {
+        if (guarded)
+            guarded->click();
+    });
+    return Result::Done;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::pressStep(
+    const QString& name, QWidget* window, int maxPresses)
+{
+    // maxPresses > 1: the step is done when the plug-in's window is up; a press whose execute
+    // ended without one (refused, or failed) is repeated.
+    if (m_pressInFlight && *m_pressInFlight) {
+        if (!isDialogWindow(window))
+            return Result::Waiting;
+        m_presses = 0;
+        m_pressInFlight.reset();
+        return Result::Done;
     }
+    if (window || (m_host.pluginRunning && m_host.pluginRunning()))
+        return Result::Waiting;
+    if (m_presses >= maxPresses) {
+        fail(QStringLiteral("no window came up after %1 presses").arg(maxPresses));
+        return Result::Waiting;
+    }
+    if (!m_host.press || !m_host.canPress || !m_host.canPress(name))
+        return Result::Waiting;
+    ++m_presses;
+    auto press = m_host.press;
+    auto inFlight = std::make_shared<bool>(true);
+    postAction([press, name, inFlight] {
+        press(name);
+        *inFlight = false;
+    });
+    if (maxPresses == 1) {
+        m_presses = 0;
+        return Result::Done;
+    }
+    m_pressInFlight = inFlight;
     return Result::Waiting;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::visit(const QJsonArray& targets, QWidget* window)
+{
+    if (!m_visitReturned) {
+        if (!isDialogWindow(window))
+            return Result::Waiting;
+        QPointer<QAbstractButton> opener(findButton(targets.at(0).toString(), window));
+        if (!opener)
+            return Result::Waiting;
+        m_visitWindow = window;
+        m_visitClosed = false;
+        auto returned = std::make_shared<bool>(false);
+        m_visitReturned = returned;
+        postAction([opener, returned] {
+            if (opener)
+                opener->click();
+            *returned = true;
+        });
+        return Result::Waiting;
+    }
+    // The opener's click returns once whatever it opened has closed again.
+    if (*m_visitReturned && window == m_visitWindow) {
+        m_visitReturned.reset();
+        return Result::Done;
+    }
+    if (!window || window == m_visitWindow || isBusyDialog(window) || m_visitClosed)
+        return Result::Waiting;
+    QPointer<QWidget> opened(window);
+    if (targets.at(1).isString()) {
+        QPointer<QAbstractButton> closer(findButton(targets.at(1).toString(), window));
+        if (!closer)
+            return Result::Waiting;
+        postAction([closer] {
+            if (closer)
+                closer->click();
+        });
+    } else {
+        postAction([opened] {
+            if (auto* dialog = qobject_cast<QDialog*>(opened.data()))
+                dialog->reject();
+            else if (opened)
+                opened->close();
+        });
+    }
+    m_visitClosed = true;
+    return Result::Waiting;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::changeWorld(const QJsonObject& world, QWidget* window)
+{
+    if (window || (m_host.pluginRunning && m_host.pluginRunning()) || !m_host.changeWorld)
+        return Result::Waiting;
+    emit acting(m_index + 1);
+    QString error;
+    if (!m_host.changeWorld(world, error)) {
+        fail(error);
+        return Result::Waiting;
+    }
+    return Result::Done;
+}
+
+void HST_ScriptRunner::answer(QMessageBox* box)
+{
+    if (box == m_answered)
+        return;
+    m_answered = box;
+    QAbstractButton* button = box->button(QMessageBox::Ok);
+    if (!button)
+        button = box->button(QMessageBox::No);
+    if (!button)
+        button = box->defaultButton();
+    QPointer<QAbstractButton> guarded(button);
+    QPointer<QMessageBox> guardedBox(box);
+    post(this, [guarded, guardedBox] {
+        if (guarded)
+            guarded->click();
+        else if (guardedBox)
+            guardedBox->reject();
+    });
 }
 
 HST_ScriptRunner::Result HST_ScriptRunner::set(
@@ -185,7 +355,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::set(
     QPointer<QWidget> guarded(widget);
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
         const QString text = value.isString() ? value.toString() : value.toVariant().toString();
-        post(this, [guarded, edit, text] {
+        postAction([guarded, edit, text] {
             if (guarded) {
                 edit->setText(text);
                 emit edit->editingFinished();
@@ -197,7 +367,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::set(
         const int index = value.isDouble() ? value.toInt() : combo->findText(value.toString());
         if (index < 0 || index >= combo->count())
             return Result::Waiting;
-        post(this, [guarded, combo, index] {
+        postAction([guarded, combo, index] {
             if (guarded) {
                 combo->setCurrentIndex(index);
                 emit combo->activated(index);
@@ -207,7 +377,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::set(
     }
     if (auto* spin = qobject_cast<QSpinBox*>(widget)) {
         const int number = value.toVariant().toInt();
-        post(this, [guarded, spin, number] {
+        postAction([guarded, spin, number] {
             if (guarded)
                 spin->setValue(number);
         });
@@ -218,7 +388,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::set(
         const bool radio = qobject_cast<QRadioButton*>(widget) != nullptr;
         // A click, so that the clicked signals fire; a radio button is clicked even when it
         // is checked already, as a user can.
-        post(this, [guarded, button, on, radio] {
+        postAction([guarded, button, on, radio] {
             if (!guarded)
                 return;
             if ((radio && on) || button->isChecked() != on)
@@ -244,7 +414,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::runScript(const QString& code, QWidge
         return Result::Waiting;
     QPointer<QWebView> guarded(view);
     HST_Recorder* recorder = m_recorder;
-    post(this, [guarded, code, recorder] {
+    postAction([guarded, code, recorder] {
         if (!guarded)
             return;
         const QVariant result = guarded->page()->mainFrame()->evaluateJavaScript(code);
@@ -280,7 +450,8 @@ void HST_ScriptRunner::nextStep()
     if (m_index < m_steps.size())
         return;
     m_finished = true;
-    m_timer.stop();
+    if (!m_autoAnswer)
+        m_timer.stop();
     emit finished(true);
 }
 

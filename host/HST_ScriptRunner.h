@@ -7,13 +7,27 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 
 class HST_Recorder;
+class QMessageBox;
 class QWidget;
+
+// What the steps that act on the host itself need of it.
+struct HST_ScriptHost
+{
+    std::function<bool()> pluginRunning;
+    // A plug-in's button is there and enabled.
+    std::function<bool(const QString& name)> canPress;
+    std::function<void(const QString& name)> press;
+    // Applies part of a scenario to the running host; false with error set when refused.
+    std::function<bool(const QJsonObject& world, QString& error)> changeWorld;
+};
 
 // Plays a list of steps against the application's active modal window, as a user would:
 // {"click": TEXT-OR-OBJECTNAME}, {"set": [OBJECTNAME, VALUE]}, {"js": CODE},
-// {"screenshot": FILE}, {"wait": MS}.
+// {"screenshot": FILE}, {"wait": MS}, {"visit": [OPENER, CLOSER]}; and against the host while no
+// plug-in runs: {"press": NAME}, {"open": NAME}, {"world": SCENARIO-PART}. README lists them.
 //
 // A modal dialog blocks whoever opened it, so the steps are driven by a polling timer, and
 // every action is posted rather than done in the timer's slot: an action that opens another
@@ -36,6 +50,14 @@ public:
     void setStepTimeout(int ms) { m_timeoutMs = ms; }
     // What a screenshot shows when no modal window is up and busy() says nothing will come.
     void setIdleWindow(QWidget* window, std::function<bool()> busy);
+    void setHost(HST_ScriptHost host) { m_host = std::move(host); }
+    // Every message box is answered as soon as it shows, with OK where it has one, else No:
+    // for runs whose boxes can't be foreseen step by step (injected faults).
+    void setAutoAnswer(bool on) { m_autoAnswer = on; }
+    // Answers boxes from now on, before the steps start (the plug-in may report while loading).
+    void startAnswering();
+    // No more steps; boxes are still answered (while the plug-in unloads).
+    void answerOnly();
     void start();
     void stop() { m_timer.stop(); }
 
@@ -45,6 +67,8 @@ public:
 
 signals:
     void finished(bool ok);
+    // The step (counted from 1) whose action is about to run.
+    void acting(int step);
 
 private slots:
     void poll();
@@ -56,6 +80,12 @@ private:
     Result set(const QString& name, const QJsonValue& value, QWidget* window);
     Result runScript(const QString& code, QWidget* window);
     Result screenshot(const QString& path, QWidget* window);
+    Result pressStep(const QString& name, QWidget* window, int maxPresses);
+    Result visit(const QJsonArray& targets, QWidget* window);
+    Result changeWorld(const QJsonObject& world, QWidget* window);
+    void answer(QMessageBox* box);
+    // Posts an action of the current step.
+    template <typename Action> void postAction(Action action);
     void nextStep();
     void fail(const QString& problem);
     void closeModalWindows();
@@ -69,5 +99,15 @@ private:
     QPointer<QWidget> m_idleWindow;
     std::function<bool()> m_busy;
     bool m_finished = false;
+    bool m_started = false;
     QString m_failure;
+    HST_ScriptHost m_host;
+    bool m_autoAnswer = false;
+    // State of the current step, where it takes more than one action.
+    int m_presses = 0;
+    std::shared_ptr<bool> m_pressInFlight;
+    QPointer<QMessageBox> m_answered;
+    QPointer<QWidget> m_visitWindow;
+    std::shared_ptr<bool> m_visitReturned;
+    bool m_visitClosed = false;
 };

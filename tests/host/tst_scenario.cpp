@@ -47,9 +47,12 @@ void tst_Scenario::read_data()
         << QString()
         << QByteArray("{\"hubs\": [{\"state\": \"connected\", \"connectsOn\": \"never\"}]}")
         << QStringList { "\"hubs[0].connectsOn\"", "not both" };
-    QTest::newRow("fault of an operation the host can't fail")
-        << QString() << QByteArray("{\"faults\": {\"translate\": \"x\"}}")
-        << QStringList { "\"faults.translate\"", "unknown key" };
+    QTest::newRow("fault whose key names no operation")
+        << QString() << QByteArray("{\"faults\": {\"Sync now\": \"x\"}}")
+        << QStringList { "\"faults.Sync now\"", "not the name of a host operation" };
+    QTest::newRow("fault in steps without a text")
+        << QString() << QByteArray("{\"faults\": {\"translate\": {\"steps\": [1]}}}")
+        << QStringList { "\"faults.translate\"", "no text" };
 }
 
 void tst_Scenario::read()
