@@ -29,9 +29,18 @@ void HST_Faults::enter(const char* operation)
         if (fault == m_faults.constEnd())
             return;
         if (!fault->steps.isEmpty()) {
-            if (!fault->steps.contains(step) || m_thrown.contains(key))
+            // Due once for each listed step, at the first call in it or, when a run's timing
+            // moved that call (a paint comes later), at the first call after it.
+            bool due = false;
+            for (int listed : fault->steps) {
+                const std::pair<QString, int> listedKey(name, listed);
+                if (listed <= step && !m_thrown.contains(listedKey)) {
+                    m_thrown.insert(listedKey);
+                    due = true;
+                }
+            }
+            if (!due)
                 return;
-            m_thrown.insert(key);
         }
         text = fault->text;
     }

@@ -30,7 +30,7 @@ private:
     HST_Recorder* m_recorder;
     std::atomic<int> m_step { 0 };
     QMutex m_mutex;
-    // (operation, step) pairs seen, and those whose fault was thrown.
+    // (operation, step) pairs seen, and the listed steps whose fault was thrown.
     QSet<std::pair<QString, int>> m_seen;
     QSet<std::pair<QString, int>> m_thrown;
 };
