@@ -5,6 +5,7 @@
 #include <QLibrary>
 
 #include <cstring>
+#include <memory>
 #include <stdexcept>
 
 namespace {
@@ -84,24 +85,23 @@ bool load(const char* fileName)
 {
     if (libraryHandle)
         return true;
-    auto* library = new QLibrary(QString::fromLocal8Bit(fileName));
-    if (!library->load()) {
-        delete library;
+    auto library = std::make_unique<QLibrary>(QString::fromLocal8Bit(fileName));
+    if (!library->load())
         return false;
-    }
-    const bool complete = resolve(library, "viOpenDefaultRM", viOpenDefaultRM)
-                          && resolve(library, "viOpen", viOpen)
-                          && resolve(library, "viPrintf", viPrintf)
-                          && resolve(library, "viScanf", viScanf)
-                          && resolve(library, "viClose", viClose)
-                          && resolve(library, "viClear", viClear);
+    QLibrary* file = library.get();
+    const bool complete = resolve(file, "viOpenDefaultRM", viOpenDefaultRM)
+                          && resolve(file, "viOpen", viOpen)
+                          && resolve(file, "viPrintf", viPrintf)
+                          && resolve(file, "viScanf", viScanf)
+                          && resolve(file, "viClose", viClose)
+                          && resolve(file, "viClear", viClear);
     if (!complete) {
         clearEntryPoints();
         library->unload();
-        delete library;
         return false;
     }
-    libraryHandle = library;
+    // Kept until unload().
+    libraryHandle = library.release();
     return true;
 }
 

@@ -13,7 +13,7 @@
 
 GUI_SyncControlSearchSetting::GUI_SyncControlSearchSetting(APP_Host* host, QWidget* parent)
     : GUI_Dialog(parent, Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint, true)
-    , m_ui(new Ui_GUI_SyncControlSearchSetting)
+    , m_ui(std::make_unique<Ui_GUI_SyncControlSearchSetting>())
     , m_host(host)
 {
     m_ui->setupUi(this);
@@ -52,10 +52,7 @@ GUI_SyncControlSearchSetting::GUI_SyncControlSearchSetting(APP_Host* host, QWidg
     });
 }
 
-GUI_SyncControlSearchSetting::~GUI_SyncControlSearchSetting()
-{
-    delete m_ui;
-}
+GUI_SyncControlSearchSetting::~GUI_SyncControlSearchSetting() = default;
 
 void GUI_SyncControlSearchSetting::reload()
 {

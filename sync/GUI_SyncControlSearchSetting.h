@@ -2,6 +2,8 @@
 
 #include "web/GUI_Dialog.h"
 
+#include <memory>
+
 class APP_Host;
 class Ui_GUI_SyncControlSearchSetting;
 
@@ -25,6 +27,6 @@ private:
     void reload();
     void logClick(const char* slot);
 
-    Ui_GUI_SyncControlSearchSetting* m_ui;
+    std::unique_ptr<Ui_GUI_SyncControlSearchSetting> m_ui;
     APP_Host* m_host;
 };

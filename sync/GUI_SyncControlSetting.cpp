@@ -16,7 +16,7 @@
 GUI_SyncControlSetting::GUI_SyncControlSetting(
     APP_Host* host, const QString& ipAddress, QWidget* parent)
     : GUI_Dialog(parent, Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint, true)
-    , m_ui(new Ui_GUI_SyncControlSetting)
+    , m_ui(std::make_unique<Ui_GUI_SyncControlSetting>())
     , m_host(host)
     , m_ipAddress(ipAddress)
 {
@@ -48,10 +48,7 @@ GUI_SyncControlSetting::GUI_SyncControlSetting(
     });
 }
 
-GUI_SyncControlSetting::~GUI_SyncControlSetting()
-{
-    delete m_ui;
-}
+GUI_SyncControlSetting::~GUI_SyncControlSetting() = default;
 
 void GUI_SyncControlSetting::logClick(const char* slot)
 {

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <memory>
+
 class APP_Host;
 class Ui_GUI_SyncControlSetting;
 
@@ -23,7 +25,7 @@ private slots:
 private:
     void logClick(const char* slot);
 
-    Ui_GUI_SyncControlSetting* m_ui;
+    std::unique_ptr<Ui_GUI_SyncControlSetting> m_ui;
     APP_Host* m_host;
     QString m_ipAddress;
 };

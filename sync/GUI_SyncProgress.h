@@ -3,6 +3,8 @@
 #include "sync/SyncSettings.h"
 #include "util/GUI_ProgressDialog.h"
 
+#include <QPointer>
+
 #include <QList>
 
 class APP_Host;
@@ -26,7 +28,8 @@ public slots:
     void complete(bool result);
 
 private:
-    RUN_SyncingThread* m_thread = nullptr;
+    // The thread deletes itself once it has finished.
+    QPointer<RUN_SyncingThread> m_thread;
     APP_Host* m_host;
     bool m_result = true;
 };

@@ -87,13 +87,11 @@ void SyncHubTable::clear()
             m_table->setCellWidget(row, 2, nullptr);
             disconnect(combo, &GUI_SyncControlCombobox::signalTextChanged, this,
                 &SyncHubTable::frequencyChanged);
-            delete combo;
         }
         if (auto* button = qobject_cast<GUI_SyncControlButton*>(m_table->cellWidget(row, 3))) {
             m_table->setCellWidget(row, 3, nullptr);
             disconnect(
                 button, &GUI_SyncControlButton::signalClicked, this, &SyncHubTable::editClicked);
-            delete button;
         }
     }
     m_table->setRowCount(0);

@@ -6,9 +6,9 @@
 
 GUI_WebView::GUI_WebView(APP_Host* host, QWidget* parent)
     : QWebView(parent)
-    , m_page(new GUI_WebPage(host, nullptr))
+    , m_page(std::make_unique<GUI_WebPage>(host, nullptr))
 {
-    setPage(m_page);
+    setPage(m_page.get());
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);
 }
@@ -17,7 +17,6 @@ GUI_WebView::~GUI_WebView()
 {
     // The page is ours, not the view's: detach it first so the view doesn't touch it later.
     setPage(nullptr);
-    delete m_page;
     if (m_inspector) {
         m_inspector->close();
         delete m_inspector;

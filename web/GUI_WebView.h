@@ -3,6 +3,8 @@
 #include <QMenu>
 #include <QWebView>
 
+#include <memory>
+
 class APP_Host;
 class GUI_WebPage;
 
@@ -21,7 +23,7 @@ private slots:
     void execWebInspector();
 
 private:
-    GUI_WebPage* m_page;
+    std::unique_ptr<GUI_WebPage> m_page;
     QMenu m_contextMenu;
     QWidget* m_inspector = nullptr;
 };
