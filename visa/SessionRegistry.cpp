@@ -6,10 +6,11 @@
 
 SessionRegistry& SessionRegistry::instance()
 {
-    // Never destroyed: a session still open when the library unloads must not be torn down
-    // from a static destructor in an unknown order.
-    static SessionRegistry* registry = new SessionRegistry;
-    return *registry;
+    // Destroyed when the library is unloaded (the plug-in unloads it with itself; a registry
+    // left behind leaked at every load), closing any session still open: nothing else of the
+    // library's is static, so nothing it needs is gone by then.
+    static SessionRegistry registry;
+    return registry;
 }
 
 ViSession SessionRegistry::addResourceManager()
