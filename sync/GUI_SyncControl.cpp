@@ -105,11 +105,11 @@ GUI_SyncControl::~GUI_SyncControl()
 
 void GUI_SyncControl::setDiagram(std::unique_ptr<SyncWiringDiagramWidget> diagram)
 {
-    connect(
-        diagram.get(), &SyncWiringDiagramWidget::drawEevent, this, &GUI_SyncControl::paintDiagram);
-    m_diagram = diagram.get();
-    // Deletes the diagram it held.
-    m_ui->syncScrollArea->setWidget(diagram.release());
+    SyncWiringDiagramWidget* widget = diagram.release();
+    connect(widget, &SyncWiringDiagramWidget::drawEevent, this, &GUI_SyncControl::paintDiagram);
+    // Takes the new diagram and deletes the one it held.
+    m_ui->syncScrollArea->setWidget(widget);
+    m_diagram = widget;
 }
 
 int GUI_SyncControl::exec()
