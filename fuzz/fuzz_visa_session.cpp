@@ -194,7 +194,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                       != std::end(documented));
             };
             const std::string query = "*IDN?\n";
-            step(session.write(reinterpret_cast<const uint8_t *>(query.data()), query.size(), true));
+            step(session.write(reinterpret_cast<const uint8_t *>(query.data()), query.size()));
             std::string message;
             const size_t keep = (flags & 8) ? 3 : 1024;
             step(session.read(message, keep));

@@ -117,7 +117,7 @@ ViStatus VisaSession::transportFailure(Vxi11Client::Status status)
     return VisaStatus::fromTransport(status);
 }
 
-ViStatus VisaSession::write(const uint8_t* data, size_t size, bool)
+ViStatus VisaSession::write(const uint8_t* data, size_t size)
 {
     if (!m_linkOpen)
         return VI_ERROR_CONN_LOST;

@@ -35,10 +35,9 @@ public:
 
     ViStatus open(const ResourceName& resource, bool lockDevice, uint32_t lockTimeoutMs);
     // Sends one message, split at the instrument's maxRecvSize, END on the last piece, each
-    // piece's reply taken before anything else goes out. The third argument, once "a reply is
-    // expected", is ignored: a query is written like any other message (README.md, "One call
-    // at a time").
-    ViStatus write(const uint8_t* data, size_t size, bool = false);
+    // piece's reply taken before anything else goes out; a query is written like any other
+    // message (README.md, "One call at a time").
+    ViStatus write(const uint8_t* data, size_t size);
     // Reads one whole message (to END or the instrument's term char), keeping at most keep
     // bytes of it; the rest is read and dropped so it can't pass for the next reply.
     ViStatus read(std::string& message, size_t keep);
