@@ -16,6 +16,10 @@
 #include <QWebView>
 
 #include <memory>
+#include <type_traits>
+
+// The host reaches a mediator's QObject at the mediator's own address (APP_MediatorObject.h).
+static_assert(std::is_base_of_v<QObject, JS_Mediator>, "JS_Mediator is a QObject");
 
 JS_Mediator::JS_Mediator(APP_Host* host, const QString& name)
     : QObject(nullptr)
