@@ -23,7 +23,6 @@ private slots:
     void pageGetsPlainValues_data();
     void pageGetsPlainValues();
     void publishedAgainAfterReload();
-    void failingCallLeavesPageRunning();
     void localizeAndOperationLogSeeElements();
     void leavingQrcIsRefused_data();
     void leavingQrcIsRefused();
@@ -97,6 +96,11 @@ void tst_WebDialog::pageGetsPlainValues_data()
                                         << "number:-1";
     QTest::newRow("translation comes back as text") << "test_dialog.translate('Open %1', 'file')"
                                                     << "string:T(Open T(file))";
+    QTest::newRow("a page resource loads as its text")
+        << "test_dialog.load('const_pref.js').indexOf('sync/generator/address') >= 0"
+        << "boolean:true";
+    QTest::newRow("an unknown resource loads as empty text") << "test_dialog.load('no/such.js')"
+                                                             << "string:";
 }
 
 void tst_WebDialog::pageGetsPlainValues()
@@ -121,18 +125,6 @@ void tst_WebDialog::publishedAgainAfterReload()
     QCOMPARE(run(QStringLiteral("typeof test_dialog.getPrefString")).toString(),
         QStringLiteral("function"));
     QCOMPARE(run(QStringLiteral("test_dialog.getWidth()")).toInt(), -1);
-}
-
-void tst_WebDialog::failingCallLeavesPageRunning()
-{
-    m_host->failing = QStringLiteral("getPrefString");
-    const QString result
-        = run(QStringLiteral("var r; try { r = '[' + test_dialog.getPrefString('k') + ']'; } catch "
-                             "(e) { r = 'threw'; }"
-                             " r + ' then ' + test_dialog.getHeight()"))
-              .toString();
-    QCOMPARE(result, QStringLiteral("[] then -1"));
-    QCOMPARE(m_recorder->events(QStringLiteral("reportException")).size(), 1);
 }
 
 void tst_WebDialog::localizeAndOperationLogSeeElements()
