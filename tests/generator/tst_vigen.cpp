@@ -59,10 +59,8 @@ private slots:
     void statusSign();
     void replyLength_data();
     void replyLength();
-    void supportedDevice_data();
-    void supportedDevice();
-    void frequency_data();
-    void frequency();
+    void queries_data();
+    void queries();
     void notConnectedSendsNothing();
     void syncStopsAtFirstFailure();
 
@@ -216,50 +214,49 @@ void tst_VIGen::replyLength()
     QVERIFY(calls().first().endsWith(QLatin1String("|%1024t")));
 }
 
-void tst_VIGen::supportedDevice_data()
+// The identity decides whether the instrument is supported; the frequency is read as a number.
+void tst_VIGen::queries_data()
 {
-    QTest::addColumn<QByteArray>("identity");
-    QTest::addColumn<bool>("supported");
-    QTest::newRow("four fields, model second")
-        << QByteArray("Maker,33210A,MY1234,1.03-1.01\n") << true;
-    QTest::newRow("empty fields count") << QByteArray(",33210A,,\n") << true;
-    QTest::newRow("three fields") << QByteArray("Maker,33210A,MY1234\n") << false;
-    QTest::newRow("five fields") << QByteArray("Maker,33210A,MY1234,1.03,x\n") << false;
-    QTest::newRow("other letter case") << QByteArray("Maker,33210a,MY1234,1.03\n") << false;
-    QTest::newRow("blanks around the model") << QByteArray("Maker, 33210A,MY1234,1.03\n") << false;
-    QTest::newRow("another model") << QByteArray("Maker,33220A,MY1234,1.03\n") << false;
-    QTest::newRow("no reply") << QByteArray() << false;
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("identity: four fields, model second")
+        << "*IDN?" << QByteArray("Maker,33210A,MY1234,1.03-1.01\n") << "true";
+    QTest::newRow("identity: empty fields count") << "*IDN?" << QByteArray(",33210A,,\n") << "true";
+    QTest::newRow("identity: three fields")
+        << "*IDN?" << QByteArray("Maker,33210A,MY1234\n") << "false";
+    QTest::newRow("identity: five fields")
+        << "*IDN?" << QByteArray("Maker,33210A,MY1234,1.03,x\n") << "false";
+    QTest::newRow("identity: other letter case")
+        << "*IDN?" << QByteArray("Maker,33210a,MY1234,1.03\n") << "false";
+    QTest::newRow("identity: blanks around the model")
+        << "*IDN?" << QByteArray("Maker, 33210A,MY1234,1.03\n") << "false";
+    QTest::newRow("identity: another model")
+        << "*IDN?" << QByteArray("Maker,33220A,MY1234,1.03\n") << "false";
+    QTest::newRow("identity: no reply") << "*IDN?" << QByteArray() << "false";
+    QTest::newRow("frequency: instrument's float notation")
+        << "FREQ?" << QByteArray("+1.00000000000000E+03\n") << "1000";
+    QTest::newRow("frequency: truncated, not rounded") << "FREQ?" << QByteArray("999.9\n") << "999";
+    QTest::newRow("frequency: line feeds removed before reading")
+        << "FREQ?" << QByteArray("20\n00\n") << "2000";
+    QTest::newRow("frequency: no number gives 0") << "FREQ?" << QByteArray("garbage\n") << "0";
+    QTest::newRow("frequency: out of int range is clamped")
+        << "FREQ?" << QByteArray("+9.9E+37\n") << QString::number(INT_MAX);
 }
 
-void tst_VIGen::supportedDevice()
+void tst_VIGen::queries()
 {
-    QFETCH(QByteArray, identity);
-    QFETCH(bool, supported);
+    QFETCH(QString, query);
+    QFETCH(QByteArray, reply);
+    QFETCH(QString, result);
     QVERIFY(m_driver->connect(0, 0x7F000001));
     fakeVisaReset();
-    queueReply(identity);
-    QCOMPARE(m_driver->isSupportedDevice(), supported);
-    QCOMPARE(printed(), QStringList { "*IDN?\n" });
-}
-
-void tst_VIGen::frequency_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<int>("hertz");
-    QTest::newRow("instrument's float notation") << QByteArray("+1.00000000000000E+03\n") << 1000;
-    QTest::newRow("truncated, not rounded") << QByteArray("999.9\n") << 999;
-    QTest::newRow("line feeds removed before reading") << QByteArray("20\n00\n") << 2000;
-    QTest::newRow("no number gives 0") << QByteArray("garbage\n") << 0;
-    QTest::newRow("out of int range is clamped") << QByteArray("+9.9E+37\n") << INT_MAX;
-}
-
-void tst_VIGen::frequency()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(int, hertz);
-    QVERIFY(m_driver->connect(0, 0x7F000001));
     queueReply(reply);
-    QCOMPARE(m_driver->getFrequency(), hertz);
+    QCOMPARE(query == QLatin1String("*IDN?")
+            ? QString::fromLatin1(m_driver->isSupportedDevice() ? "true" : "false")
+            : QString::number(m_driver->getFrequency()),
+        result);
+    QCOMPARE(printed(), QStringList { query + QLatin1Char('\n') });
 }
 
 void tst_VIGen::notConnectedSendsNothing()
