@@ -17,11 +17,4 @@ HST_Options pressOptions(const QByteArray& scenario, const QString& prefsFile);
 // open sync dialog to a check. Message boxes that come up meanwhile are answered with their
 // default button. Gives the application's exit code.
 int runSyncDialog(const QByteArray& scenario, const std::function<void(QDialog*)>& check,
-                  QList<QJsonObject>* record = nullptr);
-
-// A widget of the dialog by object name; fails the test when it is missing.
-template <typename T>
-T* widget(QWidget* parent, const char* name)
-{
-    return parent->findChild<T*>(QLatin1String(name));
-}
+    QList<QJsonObject>* record = nullptr);
