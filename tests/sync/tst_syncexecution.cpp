@@ -7,13 +7,16 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-// "Sync execute" and "Sync quit" from the button to the stored preferences, through the real
-// plug-in file in the reference host, with every answer scripted.
+// The checks before the sync dialog opens, then "Sync execute" and "Sync quit" from the button
+// to the stored preferences, through the real plug-in file in the reference host, with every
+// answer scripted.
 class tst_SyncExecution : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void refusals_data();
+    void refusals();
     void flow_data();
     void flow();
 
@@ -24,7 +27,8 @@ private:
         QList<QJsonObject> events;
         QStringList calls(const QString& call, const QString& field) const;
     };
-    static Run run(const QByteArray& scenario, const QJsonArray& steps, const QStringList& clicks);
+    static Run run(const QByteArray& scenario, const QJsonArray& steps, const QStringList& clicks,
+        int stepTimeoutMs = 3000);
 };
 
 QStringList tst_SyncExecution::Run::calls(const QString& call, const QString& field) const
@@ -37,14 +41,14 @@ QStringList tst_SyncExecution::Run::calls(const QString& call, const QString& fi
     return result;
 }
 
-tst_SyncExecution::Run tst_SyncExecution::run(
-    const QByteArray& scenario, const QJsonArray& steps, const QStringList& clicks)
+tst_SyncExecution::Run tst_SyncExecution::run(const QByteArray& scenario, const QJsonArray& steps,
+    const QStringList& clicks, int stepTimeoutMs)
 {
     QTemporaryDir dir;
     HST_Options options = pressOptions(scenario, dir.filePath(QStringLiteral("prefs.ini")));
     options.steps = steps;
     options.answers = clicks;
-    options.stepTimeoutMs = 3000;
+    options.stepTimeoutMs = stepTimeoutMs;
     HST_Application application(options);
     Run result;
     result.code = application.run();
@@ -75,7 +79,120 @@ const char* const EraseQuestion
     = "There are cameras that need to erase the image data recorded to continue the operation. "
       "Would you like to erase the data and continue the operation?";
 
+const char* const OneCamera = "Because there is only one camera, synchronization is not necessary.";
+const char* const LowLight
+    = "Synchronization setting is impossible due to the presence of low light camera.";
+const char* const DualSlope
+    = "Synchronization setting can not be done because there is a dual slope shutter camera.";
+const char* const Unsupported = "The selected camera does not support sync setting";
+const char* const TriggerModes
+    = "Sync setting is possible only when all cameras are in the same trigger mode.";
+const char* const MixedWarning
+    = "Since the cameras with different exposure timings are mixed, the trigger mode of the start "
+      "system can not be used. Consider using manual mode.";
+const char* const AutoExposure
+    = "Synchronization setting is impossible because there is a camera with automatic exposure "
+      "control.";
+
+// Two or three cameras of type 1, trigger mode 1, with the given extra keys per camera.
+QByteArray cameraSet(const QStringList& cameras)
+{
+    QStringList entries;
+    int last = 10;
+    for (const QString& extra : cameras) {
+        QString entry = QStringLiteral("{\"ip\": \"10.0.0.%1\", \"type\": 1").arg(++last);
+        if (!extra.isEmpty())
+            entry += QStringLiteral(", ") + extra;
+        entries.append(entry + QStringLiteral("}"));
+    }
+    return QStringLiteral("{\"syncCapableTypes\": [1, 2], \"cameras\": [%1]}")
+        .arg(entries.join(QStringLiteral(", ")))
+        .toUtf8();
+}
+
 } // namespace
+
+void tst_SyncExecution::refusals_data()
+{
+    QTest::addColumn<QByteArray>("world");
+    QTest::addColumn<QString>("refusal");
+    QTest::addColumn<bool>("warning");
+    QTest::addColumn<bool>("okEnabled");
+
+    QTest::newRow("a valid set opens with Sync execute on")
+        << cameraSet({ "", "" }) << QString() << false << true;
+    QTest::newRow("two documents of one camera count once")
+        << QByteArray("{\"syncCapableTypes\": [1], \"cameras\": [{\"type\": 1, \"documents\": 2}]}")
+        << OneCamera << false << false;
+    QTest::newRow("low light") << cameraSet({ "", "\"lowLightMode\": 1" }) << LowLight << false
+                               << false;
+    QTest::newRow("dual slope") << cameraSet({ "\"dualSlopeShutter\": 2", "" }) << DualSlope
+                                << false << false;
+    QTest::newRow("type not sync-capable")
+        << cameraSet({ "", "\"type\": 7" }) << Unsupported << false << false;
+    QTest::newRow("trigger modes differ")
+        << cameraSet({ "", "\"triggerMode\": 2" }) << TriggerModes << false << false;
+    QTest::newRow("automatic exposure")
+        << cameraSet({ "\"automaticExposureControl\": 1", "" }) << AutoExposure << false << false;
+    QTest::newRow("all at once: low light is told first")
+        << cameraSet({ "\"automaticExposureControl\": 1, \"triggerMode\": 3",
+               "\"dualSlopeShutter\": 1, \"type\": 9", "\"lowLightMode\": 1" })
+        << LowLight << false << false;
+    QTest::newRow("dual slope before type")
+        << cameraSet({ "\"type\": 9", "\"dualSlopeShutter\": 1" }) << DualSlope << false << false;
+    QTest::newRow("type before trigger mode")
+        << cameraSet({ "\"triggerMode\": 4", "\"type\": 9" }) << Unsupported << false << false;
+    QTest::newRow("trigger mode before automatic exposure")
+        << cameraSet({ "\"automaticExposureControl\": 1", "\"triggerMode\": 4" }) << TriggerModes
+        << false << false;
+    QTest::newRow("mixed exposure in a start-system mode warns, opens with Sync execute off")
+        << cameraSet({ "\"triggerMode\": 0, \"exposureTimingFlag\": 1", "\"triggerMode\": 0" })
+        << QString() << true << false;
+    QTest::newRow("mixed exposure in mode 1 is fine")
+        << cameraSet({ "\"exposureTimingFlag\": 1", "" }) << QString() << false << true;
+    QTest::newRow("the warning comes before automatic exposure")
+        << cameraSet({ "\"triggerMode\": 0, \"exposureTimingFlag\": 1",
+               "\"triggerMode\": 0, \"automaticExposureControl\": 1" })
+        << AutoExposure << true << false;
+    QTest::newRow("a dummy's low light, type and exposure are skipped, but it keeps OK off")
+        << cameraSet({ "",
+               "\"dummy\": true, \"lowLightMode\": 1, \"type\": 9, "
+               "\"automaticExposureControl\": 1, \"dualSlopeShutter\": 1" })
+        << QString() << false << false;
+    QTest::newRow("a dummy's trigger mode counts")
+        << cameraSet({ "", "\"dummy\": true, \"triggerMode\": 5" }) << TriggerModes << false
+        << false;
+}
+
+void tst_SyncExecution::refusals()
+{
+    QFETCH(QByteArray, world);
+    QFETCH(QString, refusal);
+    QFETCH(bool, warning);
+    QFETCH(bool, okEnabled);
+
+    QJsonArray steps;
+    if (warning)
+        steps.append(QJsonObject { { QStringLiteral("click"), QStringLiteral("OK") } });
+    if (!refusal.isEmpty()) {
+        steps.append(QJsonObject { { QStringLiteral("click"), QStringLiteral("OK") } });
+    } else {
+        // A disabled button can't be clicked: the step fails and the run ends with code 3.
+        // An enabled one asks for confirmation first, which is declined.
+        for (const char* button : { "Sync execute", "Cancel", "Sync quit" })
+            steps.append(QJsonObject { { QStringLiteral("click"), QLatin1String(button) } });
+    }
+    const Run result = run(world, steps, {}, 1500);
+    QCOMPARE(result.code, refusal.isEmpty() && !okEnabled ? 3 : 0);
+    QCOMPARE(result.calls(QStringLiteral("reportException"), QStringLiteral("text")),
+        refusal.isEmpty() ? QStringList() : QStringList { refusal });
+    QStringList warnings;
+    for (const QJsonObject& event : result.events) {
+        if (event.value(QStringLiteral("kind")).toString() == QLatin1String("warning"))
+            warnings.append(event.value(QStringLiteral("text")).toString());
+    }
+    QCOMPARE(warnings, warning ? QStringList { MixedWarning } : QStringList());
+}
 
 void tst_SyncExecution::flow_data()
 {
