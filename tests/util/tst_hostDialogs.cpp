@@ -1,12 +1,16 @@
 #include "generator/VIGenThread.h"
 #include "host/HST_Host.h"
+#include "host/HST_Preferences.h"
 #include "host/HST_Recorder.h"
 #include "util/APP_Exception.h"
 #include "util/GUI_MarqueeProgressDialog.h"
 #include "util/UTL_BackgroundTask.h"
+#include "util/UTL_Messages.h"
 
 #include <QAbstractButton>
+#include <QFile>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -17,7 +21,33 @@
 #include <memory>
 #include <stdexcept>
 
+// The host-facing dialogs of the plug-in: the Yes/No/Cancel box, the running bars and the
+// busy-dialog task, against the reference host.
+using ButtonTexts = QMap<int, QString>;
+
 namespace {
+
+QString resourceText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll())
+                                                            : QString();
+}
+
+// Acts on the message box as soon as it is the active modal window.
+void whenBoxShows(const std::function<void(QMessageBox*)>& act)
+{
+    auto* timer = new QTimer;
+    timer->setInterval(10);
+    QObject::connect(timer, &QTimer::timeout, [timer, act] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            timer->stop();
+            timer->deleteLater();
+            act(box);
+        }
+    });
+    timer->start();
+}
 
 // Runs the worker under a marquee bar; a bar that never ends its exec() is hidden after ten
 // seconds so that the test fails instead of hanging.
@@ -55,20 +85,119 @@ private:
 
 } // namespace
 
-class tst_ProgressDialogs : public QObject
+class tst_HostDialogs : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void init();
+    void cleanup();
+    void yesNoCancel_data();
+    void yesNoCancel();
     void escape_data();
     void escape();
     void worker_data();
     void worker();
     void backgroundTask_data();
     void backgroundTask();
+
+private:
+    QTemporaryDir* m_dir = nullptr;
+    HST_Recorder* m_recorder = nullptr;
+    HST_Host* m_host = nullptr;
 };
 
-void tst_ProgressDialogs::escape_data()
+void tst_HostDialogs::init()
+{
+    m_dir = new QTemporaryDir;
+    m_recorder = new HST_Recorder;
+    m_host = new HST_Host(HST_Scenario(), m_recorder, m_dir->filePath(QStringLiteral("p.ini")));
+}
+
+void tst_HostDialogs::cleanup()
+{
+    delete m_host;
+    delete m_recorder;
+    delete m_dir;
+}
+
+void tst_HostDialogs::yesNoCancel_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<ButtonTexts>("texts");
+    QTest::addColumn<int>("press"); // 0 closes the window
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("yes");
+    QTest::addColumn<QString>("cancel");
+    QTest::addColumn<QString>("style");
+
+    QTest::newRow("no texts: host's Cancel, native style")
+        << "light" << ButtonTexts() << int(QMessageBox::No) << "No"
+        << "&Yes"
+        << "Cancel"
+        << "://ui-native-light.css";
+    QTest::newRow("Yes replaced: message box style, theme name case-blind")
+        << "DARK" << ButtonTexts { { QMessageBox::Yes, "Save all" } } << int(QMessageBox::Yes)
+        << "Yes"
+        << "Save all"
+        << "Cancel"
+        << "://ui-messageBox-dark.css";
+    QTest::newRow("Cancel entry wins") << "light" << ButtonTexts { { QMessageBox::Cancel, "Back" } }
+                                       << int(QMessageBox::Cancel) << "Cancel"
+                                       << "&Yes"
+                                       << "Back"
+                                       << "://ui-messageBox-light.css";
+    QTest::newRow("unknown theme is light, window closed counts as Cancel")
+        << "blue" << ButtonTexts() << 0 << "Cancel"
+        << "&Yes"
+        << "Cancel"
+        << "://ui-native-light.css";
+}
+
+void tst_HostDialogs::yesNoCancel()
+{
+    QFETCH(QString, theme);
+    QFETCH(ButtonTexts, texts);
+    QFETCH(int, press);
+    QFETCH(QString, answer);
+    QFETCH(QString, yes);
+    QFETCH(QString, cancel);
+    QFETCH(QString, style);
+    m_host->setPrefString(QStringLiteral("env/style"), theme);
+
+    QString seenYes, seenNo, seenCancel, seenStyle;
+    int depthWhileShown = -1;
+    whenBoxShows([&](QMessageBox* box) {
+        seenYes = box->button(QMessageBox::Yes)->text();
+        seenNo = box->button(QMessageBox::No)->text();
+        seenCancel = box->button(QMessageBox::Cancel)->text();
+        seenStyle = box->styleSheet();
+        depthWhileShown = m_host->modalDepth();
+        if (press)
+            box->button(QMessageBox::StandardButton(press))->click();
+        else
+            box->close();
+    });
+    m_recorder->clear();
+    const int result
+        = UTL_Messages::confirmYesNoCancel(QStringLiteral("Erase?"), m_host, nullptr, texts);
+    QCOMPARE(result, press ? press : int(QMessageBox::Cancel));
+    QCOMPARE(seenYes, yes);
+    QCOMPARE(seenNo, QStringLiteral("&No"));
+    QCOMPARE(seenCancel, cancel);
+    QVERIFY(!resourceText(style).isEmpty());
+    QCOMPARE(seenStyle, resourceText(style));
+    QCOMPARE(depthWhileShown, 1);
+    QCOMPARE(m_host->modalDepth(), 0);
+
+    QStringList logged;
+    for (const QJsonObject& event : m_recorder->events(QStringLiteral("log")))
+        logged.append(event.value(QStringLiteral("text")).toString());
+    QVERIFY2(logged.contains(QStringLiteral("\"[Erase?][result:") + answer + QStringLiteral("]\"")),
+        qPrintable(logged.join(QLatin1Char('\n'))));
+}
+
+void tst_HostDialogs::escape_data()
 {
     QTest::addColumn<bool>("marquee");
     QTest::addColumn<bool>("ignoreEscape");
@@ -83,7 +212,7 @@ void tst_ProgressDialogs::escape_data()
         << true << true << "Stop" << 1 << true;
 }
 
-void tst_ProgressDialogs::escape()
+void tst_HostDialogs::escape()
 {
     QFETCH(bool, marquee);
     QFETCH(bool, ignoreEscape);
@@ -103,7 +232,7 @@ void tst_ProgressDialogs::escape()
     QCOMPARE(dialog->isVisible(), visibleAfter);
 }
 
-void tst_ProgressDialogs::worker_data()
+void tst_HostDialogs::worker_data()
 {
     QTest::addColumn<bool>("waitsForGui");
     QTest::addColumn<int>("repeat");
@@ -114,7 +243,7 @@ void tst_ProgressDialogs::worker_data()
     QTest::newRow("GUI thread runs while the worker waits") << true << 1;
 }
 
-void tst_ProgressDialogs::worker()
+void tst_HostDialogs::worker()
 {
     QFETCH(bool, waitsForGui);
     QFETCH(int, repeat);
@@ -139,7 +268,7 @@ void tst_ProgressDialogs::worker()
     }
 }
 
-void tst_ProgressDialogs::backgroundTask_data()
+void tst_HostDialogs::backgroundTask_data()
 {
     QTest::addColumn<int>("failure");
     QTest::addColumn<bool>("completed");
@@ -154,21 +283,18 @@ void tst_ProgressDialogs::backgroundTask_data()
                                                     << "";
 }
 
-void tst_ProgressDialogs::backgroundTask()
+void tst_HostDialogs::backgroundTask()
 {
     QFETCH(int, failure);
     QFETCH(bool, completed);
     QFETCH(QString, reportedType);
     QFETCH(QString, reportedText);
-    QTemporaryDir dir;
-    HST_Recorder recorder;
-    HST_Host host(HST_Scenario(), &recorder, dir.filePath(QStringLiteral("p.ini")));
     BoxCloser closer;
 
     std::atomic<bool> offGuiThread { false };
     QThread* gui = QThread::currentThread();
     const bool result
-        = UTL_BackgroundTask::run(&host, QStringLiteral("Saving..."), [=, &offGuiThread] {
+        = UTL_BackgroundTask::run(m_host, QStringLiteral("Saving..."), [=, &offGuiThread] {
               offGuiThread = QThread::currentThread() != gui;
               if (failure == 1)
                   throw APP_Exception(QStringLiteral("Reflecting failed"), 7);
@@ -177,10 +303,10 @@ void tst_ProgressDialogs::backgroundTask()
           });
     QCOMPARE(result, completed);
     QVERIFY(offGuiThread);
-    const QList<QJsonObject> busy = recorder.events(QStringLiteral("busy"));
+    const QList<QJsonObject> busy = m_recorder->events(QStringLiteral("busy"));
     QCOMPARE(busy.size(), 1);
     QCOMPARE(busy.first().value(QStringLiteral("text")).toString(), QStringLiteral("Saving..."));
-    const QList<QJsonObject> reports = recorder.events(QStringLiteral("reportException"));
+    const QList<QJsonObject> reports = m_recorder->events(QStringLiteral("reportException"));
     QCOMPARE(reports.size(), reportedType.isEmpty() ? 0 : 1);
     if (!reportedType.isEmpty()) {
         QCOMPARE(reports.first().value(QStringLiteral("type")).toString(), reportedType);
@@ -191,5 +317,5 @@ void tst_ProgressDialogs::backgroundTask()
     }
 }
 
-QTEST_MAIN(tst_ProgressDialogs)
-#include "tst_progressDialogs.moc"
+QTEST_MAIN(tst_HostDialogs)
+#include "tst_hostDialogs.moc"
