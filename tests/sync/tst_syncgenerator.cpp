@@ -8,8 +8,10 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QProcess>
-#include <QTimer>
 #include <QTemporaryDir>
+#include <QTimer>
+
+#include <functional>
 
 // The sync with the signal generator driving the signal, against the simulated instrument on
 // loopback inside a private network namespace.
@@ -24,7 +26,8 @@ private slots:
 
 private:
     QByteArray scenario(const QString& generatorOptions = QString()) const;
-    QList<QJsonObject> run(const QByteArray& scenario, const QJsonArray& steps);
+    QList<QJsonObject> run(const QByteArray& scenario, const QJsonArray& steps,
+        const QStringList& answers = {}, const std::function<void()>& tick = {});
     QStringList commands() const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -34,7 +37,7 @@ namespace {
 
 QJsonObject click(const QString& target)
 {
-    return {{QStringLiteral("click"), target}};
+    return { { QStringLiteral("click"), target } };
 }
 
 QList<QJsonObject> only(const QList<QJsonObject>& events, const QString& call)
@@ -58,22 +61,29 @@ void tst_SyncGenerator::init()
 QByteArray tst_SyncGenerator::scenario(const QString& generatorOptions) const
 {
     return QStringLiteral(
-               "{\"syncCapableTypes\": [1], \"cameras\": [{\"ip\": \"10.0.0.1\", \"type\": 1},"
-               " {\"ip\": \"10.0.0.2\", \"type\": 1}],"
-               " \"generator\": {\"listen\": \"127.0.0.1\", \"log\": \"%1\"%2},"
-               " \"prefs\": {\"sync/generator/address\": \"127.0.0.1\","
-               " \"sync/generator/tryconnect\": true, \"sync/generator/ctrl\": true,"
-               " \"sync/external\": true, \"sync/generator/frequency\": 3000}}")
+        "{\"syncCapableTypes\": [1], \"cameras\": [{\"ip\": \"10.0.0.1\", \"type\": 1},"
+        " {\"ip\": \"10.0.0.2\", \"type\": 1}],"
+        " \"generator\": {\"listen\": \"127.0.0.1\", \"log\": \"%1\"%2},"
+        " \"prefs\": {\"sync/generator/address\": \"127.0.0.1\","
+        " \"sync/generator/tryconnect\": true, \"sync/generator/ctrl\": true,"
+        " \"sync/external\": true, \"sync/generator/frequency\": 3000}}")
         .arg(m_dir->filePath(QStringLiteral("commands.log")), generatorOptions)
         .toUtf8();
 }
 
-QList<QJsonObject> tst_SyncGenerator::run(const QByteArray& world, const QJsonArray& steps)
+QList<QJsonObject> tst_SyncGenerator::run(const QByteArray& world, const QJsonArray& steps,
+    const QStringList& answers, const std::function<void()>& tick)
 {
     HST_Options options = pressOptions(world, m_dir->filePath(QStringLiteral("prefs.ini")));
     options.steps = steps;
-    options.stepTimeoutMs = 8000;
+    options.answers = answers;
+    options.stepTimeoutMs = 15000;
     HST_Application application(options);
+    QTimer ticker;
+    ticker.setInterval(10);
+    QObject::connect(&ticker, &QTimer::timeout, [&tick] { tick(); });
+    if (tick)
+        ticker.start();
     const int code = application.run();
     if (code != 0)
         qWarning("host run ended with %d: %s", code, qPrintable(application.error()));
@@ -90,8 +100,8 @@ QStringList tst_SyncGenerator::commands() const
 
 void tst_SyncGenerator::generatorSetUpBeforeTheCameras()
 {
-    const QList<QJsonObject> events =
-        run(scenario(), {click("Sync execute"), click("OK"), click("OK"), click("Sync quit")});
+    const QList<QJsonObject> events
+        = run(scenario(), { click("Sync execute"), click("OK"), click("OK"), click("Sync quit") });
     const QList<QJsonObject> requests = only(events, QStringLiteral("applySync"));
     QCOMPARE(requests.size(), 1);
     QCOMPARE(requests.first().value(QStringLiteral("generatorControl")).toBool(), true);
@@ -102,10 +112,9 @@ void tst_SyncGenerator::generatorSetUpBeforeTheCameras()
     const int reset = log.indexOf(QStringLiteral("*RST"));
     QVERIFY2(reset >= 0, qPrintable(log.join(QLatin1Char('|'))));
     QCOMPARE(log.mid(reset, 11),
-             (QStringList{"*RST", "<device clear>", "DISP ON",
-                          "DISP:TEXT \"Tarvix4 Setting Start\"", "FUNC:SHAP PULS", "FREQ 3000",
-                          "VOLT:LOW 0", "VOLT:HIGH 5", "FUNC:PULS:DCYC 50", "OUTP ON",
-                          "DISP:TEXT \"Tarvix4 Setting End\""}));
+        (QStringList { "*RST", "<device clear>", "DISP ON", "DISP:TEXT \"Tarvix4 Setting Start\"",
+            "FUNC:SHAP PULS", "FREQ 3000", "VOLT:LOW 0", "VOLT:HIGH 5", "FUNC:PULS:DCYC 50",
+            "OUTP ON", "DISP:TEXT \"Tarvix4 Setting End\"" }));
 }
 
 void tst_SyncGenerator::generatorGoneIsSkippedSilently()
@@ -114,31 +123,21 @@ void tst_SyncGenerator::generatorGoneIsSkippedSilently()
     // fails, the setup is skipped, and the cameras are synced with the box still checked.
     const QString marker = m_dir->filePath(QStringLiteral("commands.log"));
     qputenv("SYNC_VISA_TIMEOUT_MS", "500");
-    const QList<QJsonObject> events = [&] {
-        HST_Options options =
-            pressOptions(scenario(), m_dir->filePath(QStringLiteral("prefs.ini")));
-        options.answers = QStringList{QStringLiteral("Sync execute"), QStringLiteral("OK"),
-                           QStringLiteral("OK"), QStringLiteral("Sync quit")};
-        options.stepTimeoutMs = 15000;
-        HST_Application application(options);
-        // Freeze the instrument once the dialog has shown it connected. Only this test's
-        // simulator has its log at this path.
-        QTimer freeze;
-        freeze.setInterval(10);
-        QObject::connect(&freeze, &QTimer::timeout, [&freeze, marker] {
-            QWidget* modal = QApplication::activeModalWidget();
-            if (!modal || modal->objectName() != QLatin1String("GUI_SyncControl"))
-                return;
-            freeze.stop();
-            QProcess::execute(QStringLiteral("pkill"),
-                              {QStringLiteral("-STOP"), QStringLiteral("-f"), marker});
-        });
-        freeze.start();
-        application.run();
-        qunsetenv("SYNC_VISA_TIMEOUT_MS");
-        QProcess::execute(QStringLiteral("pkill"), {QStringLiteral("-CONT"), QStringLiteral("-f"), marker});
-        return application.recorder()->events();
-    }();
+    // Freeze the instrument once the dialog has shown it connected. Only this test's simulator
+    // has its log at this path.
+    bool frozen = false;
+    const QList<QJsonObject> events
+        = run(scenario(), {}, { "Sync execute", "OK", "OK", "Sync quit" }, [&frozen, marker] {
+              QWidget* modal = QApplication::activeModalWidget();
+              if (frozen || !modal || modal->objectName() != QLatin1String("GUI_SyncControl"))
+                  return;
+              frozen = true;
+              QProcess::execute(QStringLiteral("pkill"),
+                  { QStringLiteral("-STOP"), QStringLiteral("-f"), marker });
+          });
+    qunsetenv("SYNC_VISA_TIMEOUT_MS");
+    QProcess::execute(
+        QStringLiteral("pkill"), { QStringLiteral("-CONT"), QStringLiteral("-f"), marker });
     const QList<QJsonObject> requests = only(events, QStringLiteral("applySync"));
     QCOMPARE(requests.size(), 1);
     QCOMPARE(requests.first().value(QStringLiteral("generatorControl")).toBool(), true);
