@@ -1,8 +1,10 @@
 // The web dialog frame with a real page under the offscreen platform: the mediator as the
 // page's global object, what the page gets back, the host's page helpers, and the fence
 // around qrc:.
+#include "../MessageCapture.h"
 #include "WebTestHost.h"
 
+#include "web/GUI_Dialog.h"
 #include "web/GUI_WebView.h"
 #include "web/GUI_WebViewDialog.h"
 #include "web/JS_Mediator_Dialog.h"
@@ -29,6 +31,8 @@ private slots:
     void closeButtonMeansCancel();
     void objectElementEmbedsHostWidget_data();
     void objectElementEmbedsHostWidget();
+    void plainDialogCloseButtonLogsOnce();
+    void enablingPresentCloseButtonKeepsWindow();
 
 private:
     bool openDialog();
@@ -220,6 +224,37 @@ void tst_WebDialog::objectElementEmbedsHostWidget()
     QCOMPARE(mdi && mdi->parent() != nullptr, embedded);
     m_dialog.reset();
     delete mdi;
+}
+
+// The base dialog under every plug-in window.
+void tst_WebDialog::plainDialogCloseButtonLogsOnce()
+{
+    GUI_Dialog dialog(nullptr, Qt::WindowFlags(), false);
+    dialog.show();
+    MessageCapture capture;
+    dialog.close();
+    dialog.show();
+    dialog.accept(); // by code: not through a close event
+    const QStringList lines = capture.texts(QtInfoMsg);
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines.first(),
+        QStringLiteral("[USER] \"[URL:GUI_Dialog] [ID:close] [Control:Button] "
+                       "[Operation:clicked] [Value:] \""));
+}
+
+void tst_WebDialog::enablingPresentCloseButtonKeepsWindow()
+{
+    GUI_Dialog dialog(nullptr, Qt::Window | Qt::WindowCloseButtonHint, false);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const WId before = dialog.winId();
+    emit dialog.signalEnableCloseButton();
+    QCOMPARE(dialog.winId(), before);
+    QVERIFY(dialog.isVisible());
+
+    emit dialog.signalDisableCloseButton();
+    QVERIFY(!(dialog.windowFlags() & Qt::WindowCloseButtonHint));
+    QVERIFY(dialog.isVisible()); // changing flags hides a window; the slot shows it again
 }
 
 QTEST_MAIN(tst_WebDialog)
