@@ -1,5 +1,4 @@
 #include "../NetNamespace.h"
-#include "SyncDialogRun.h"
 
 #include "host/HST_Application.h"
 #include "host/HST_Recorder.h"
@@ -34,6 +33,17 @@ private:
 };
 
 namespace {
+
+HST_Options pressOptions(const QByteArray& scenario, const QString& prefsFile)
+{
+    HST_Options options;
+    options.scenarioJson = scenario;
+    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
+    options.prefsFile = prefsFile;
+    options.press = QStringLiteral("synccontrol");
+    options.quit = true;
+    return options;
+}
 
 QJsonObject click(const QString& target)
 {
