@@ -1,11 +1,17 @@
+#include "../MessageCapture.h"
+
 #include "generator/VIGenThread.h"
 #include "host/HST_Host.h"
 #include "host/HST_Preferences.h"
 #include "host/HST_Recorder.h"
 #include "util/APP_Exception.h"
+#include "util/DOC_ReadFileException.h"
+#include "util/FunctionLogGuard.h"
 #include "util/GUI_MarqueeProgressDialog.h"
 #include "util/UTL_BackgroundTask.h"
+#include "util/UTL_Exception.h"
 #include "util/UTL_Messages.h"
+#include "util/UserOperationLog.h"
 
 #include <QAbstractButton>
 #include <QFile>
@@ -21,8 +27,9 @@
 #include <memory>
 #include <stdexcept>
 
-// The host-facing dialogs of the plug-in: the Yes/No/Cancel box, the running bars and the
-// busy-dialog task, against the reference host.
+// The plug-in's utilities: the lines support reads in the log (function trace, user operations,
+// exceptions), and the host-facing dialogs (the Yes/No/Cancel box, the running bars and the
+// busy-dialog task) against the reference host.
 using ButtonTexts = QMap<int, QString>;
 
 namespace {
@@ -85,11 +92,17 @@ private:
 
 } // namespace
 
-class tst_HostDialogs : public QObject
+class tst_Util : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void parameterText_data();
+    void parameterText();
+    void leaveLineOnException();
+    void userOperationLine();
+    void exceptionLines_data();
+    void exceptionLines();
     void init();
     void cleanup();
     void yesNoCancel_data();
@@ -107,21 +120,122 @@ private:
     HST_Host* m_host = nullptr;
 };
 
-void tst_HostDialogs::init()
+void tst_Util::parameterText_data()
+{
+    QTest::addColumn<QString>("parameters");
+    QTest::addColumn<QString>("logged");
+
+    QTest::newRow("blanks only come out empty") << QStringLiteral("   ") << QStringLiteral("\"\"");
+    QTest::newRow("trailing blank trimmed") << FunctionLogGuard::parameter(
+        QStringLiteral("text"), QStringLiteral("Do you want to execute?"))
+                                            << QStringLiteral("\"[text:Do you want to execute?]\"");
+    QTest::newRow("bool reads true") << FunctionLogGuard::parameter(QStringLiteral("on"), true)
+                                     << QStringLiteral("\"[on:true]\"");
+    QTest::newRow("no document shown as Invalid") << FunctionLogGuard::parameter(
+        QStringLiteral("docKey"), -1) << QStringLiteral("\"[docKey:Invalid]\"");
+    QTest::newRow("replacement is plain text") << FunctionLogGuard::parameter(
+        QStringLiteral("docKey"), -12) << QStringLiteral("\"[docKey:Invalid2]\"");
+}
+
+void tst_Util::parameterText()
+{
+    QFETCH(QString, parameters);
+    QFETCH(QString, logged);
+    MessageCapture capture;
+    {
+        SYNC_TRACE(QStringLiteral("GUI_X::f"), parameters);
+    }
+    QCOMPARE(capture.texts(QtInfoMsg),
+        (QStringList { QStringLiteral("[ENTER] \"GUI_X::f\" ") + logged,
+            QStringLiteral("[LEAVE] \"GUI_X::f\"") }));
+}
+
+void tst_Util::leaveLineOnException()
+{
+    MessageCapture capture;
+    try {
+        SYNC_TRACE(QStringLiteral("GUI_X::g"), QString());
+        throw std::runtime_error("boom");
+    } catch (const std::exception&) {
+    }
+    QCOMPARE(capture.texts(QtInfoMsg).last(), QStringLiteral("[LEAVE] \"GUI_X::g\""));
+}
+
+void tst_Util::userOperationLine()
+{
+    MessageCapture capture;
+    logUserOperation(QStringLiteral("GUI_SyncControlSearchSetting"),
+        QStringLiteral("GUI_SyncControlSearchSetting::okClicked"), QStringLiteral("Button"),
+        QStringLiteral("clicked"), QString());
+    UserOperationLog::writeError(QStringLiteral("bad address"));
+    QCOMPARE(capture.texts(QtInfoMsg),
+        QStringList {
+            QStringLiteral("[USER] \"[URL:GUI_SyncControlSearchSetting] "
+                           "[ID:GUI_SyncControlSearchSetting::okClicked] [Control:Button] "
+                           "[Operation:clicked] [Value:] \"") });
+    QCOMPARE(capture.texts(QtCriticalMsg),
+        QStringList { QStringLiteral("[USER][ERROR] \"bad address\"") });
+}
+
+void tst_Util::exceptionLines_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QStringList>("logged");
+
+    QTest::newRow("a derived one is logged once under the base's name, copies never")
+        << 0 << "x" << QStringList { "\"APP_Exception:[message:x] [errorCode:0] \"" };
+    QTest::newRow("a file exception adds its path")
+        << 1 << "File read failed."
+        << QStringList { "\"APP_Exception:[message:File read failed.] [errorCode:1] \"",
+               "\"DOC_FileException:[message:File read failed.] [path:/tmp/a.xml] "
+               "[errorCode:1] \"" };
+    QTest::newRow("what() is UTF-8")
+        << 2 << QStringLiteral("Kamera \u00fcber 10 \u2103") << QStringList();
+}
+
+void tst_Util::exceptionLines()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, what);
+    QFETCH(QStringList, logged);
+    MessageCapture capture;
+    QByteArray caught;
+    try {
+        if (kind == 0) {
+            try {
+                throw UTL_Exception(QStringLiteral("x"), 0);
+            } catch (const APP_Exception& e) {
+                const APP_Exception copy = e;
+                throw copy;
+            }
+        }
+        if (kind == 1)
+            throw DOC_ReadFileException(QStringLiteral("/tmp/a.xml"));
+        throw APP_Exception(what, 3);
+    } catch (const APP_Exception& e) {
+        caught = e.what();
+    }
+    QCOMPARE(caught, what.toUtf8());
+    if (!logged.isEmpty())
+        QCOMPARE(capture.texts(QtCriticalMsg), logged);
+}
+
+void tst_Util::init()
 {
     m_dir = new QTemporaryDir;
     m_recorder = new HST_Recorder;
     m_host = new HST_Host(HST_Scenario(), m_recorder, m_dir->filePath(QStringLiteral("p.ini")));
 }
 
-void tst_HostDialogs::cleanup()
+void tst_Util::cleanup()
 {
     delete m_host;
     delete m_recorder;
     delete m_dir;
 }
 
-void tst_HostDialogs::yesNoCancel_data()
+void tst_Util::yesNoCancel_data()
 {
     QTest::addColumn<QString>("theme");
     QTest::addColumn<ButtonTexts>("texts");
@@ -154,7 +268,7 @@ void tst_HostDialogs::yesNoCancel_data()
         << "://ui-native-light.css";
 }
 
-void tst_HostDialogs::yesNoCancel()
+void tst_Util::yesNoCancel()
 {
     QFETCH(QString, theme);
     QFETCH(ButtonTexts, texts);
@@ -197,7 +311,7 @@ void tst_HostDialogs::yesNoCancel()
         qPrintable(logged.join(QLatin1Char('\n'))));
 }
 
-void tst_HostDialogs::escape_data()
+void tst_Util::escape_data()
 {
     QTest::addColumn<bool>("marquee");
     QTest::addColumn<bool>("ignoreEscape");
@@ -212,7 +326,7 @@ void tst_HostDialogs::escape_data()
         << true << true << "Stop" << 1 << true;
 }
 
-void tst_HostDialogs::escape()
+void tst_Util::escape()
 {
     QFETCH(bool, marquee);
     QFETCH(bool, ignoreEscape);
@@ -232,7 +346,7 @@ void tst_HostDialogs::escape()
     QCOMPARE(dialog->isVisible(), visibleAfter);
 }
 
-void tst_HostDialogs::worker_data()
+void tst_Util::worker_data()
 {
     QTest::addColumn<bool>("waitsForGui");
     QTest::addColumn<int>("repeat");
@@ -243,7 +357,7 @@ void tst_HostDialogs::worker_data()
     QTest::newRow("GUI thread runs while the worker waits") << true << 1;
 }
 
-void tst_HostDialogs::worker()
+void tst_Util::worker()
 {
     QFETCH(bool, waitsForGui);
     QFETCH(int, repeat);
@@ -268,7 +382,7 @@ void tst_HostDialogs::worker()
     }
 }
 
-void tst_HostDialogs::backgroundTask_data()
+void tst_Util::backgroundTask_data()
 {
     QTest::addColumn<int>("failure");
     QTest::addColumn<bool>("completed");
@@ -283,7 +397,7 @@ void tst_HostDialogs::backgroundTask_data()
                                                     << "";
 }
 
-void tst_HostDialogs::backgroundTask()
+void tst_Util::backgroundTask()
 {
     QFETCH(int, failure);
     QFETCH(bool, completed);
@@ -317,5 +431,5 @@ void tst_HostDialogs::backgroundTask()
     }
 }
 
-QTEST_MAIN(tst_HostDialogs)
-#include "tst_hostDialogs.moc"
+QTEST_MAIN(tst_Util)
+#include "tst_util.moc"
