@@ -101,40 +101,75 @@ int runSyncDialog(const QByteArray& scenario, const std::function<void(QDialog*)
     return checked ? code : -1;
 }
 
-} // namespace
-
-QStringList tst_SyncDialog::Run::calls(const QString& call, const QString& field) const
+QByteArray scenario(
+    const QString& cameras, const QString& prefs = QString(), const QString& hubs = QString())
 {
-    QStringList result;
-    for (const QJsonObject& event : events) {
-        if (event.value(QStringLiteral("call")).toString() == call)
-            result.append(event.value(field).toVariant().toString());
-    }
-    return result;
-}
-
-tst_SyncDialog::Run tst_SyncDialog::run(const QByteArray& scenario, const QJsonArray& steps,
-    const QStringList& clicks, int stepTimeoutMs)
-{
-    QTemporaryDir dir;
-    HST_Options options = pressOptions(scenario, dir.filePath(QStringLiteral("prefs.ini")));
-    options.steps = steps;
-    options.answers = clicks;
-    options.stepTimeoutMs = stepTimeoutMs;
-    HST_Application application(options);
-    Run result;
-    result.code = application.run();
-    result.events = application.recorder()->events();
-    return result;
-}
-
-namespace {
-
-QByteArray world(const QString& cameras, const QString& extra = QString())
-{
-    return QStringLiteral("{\"syncCapableTypes\": [1], \"cameras\": [%1]%2}")
-        .arg(cameras, extra)
+    return QStringLiteral("{\"syncCapableTypes\": [1, 23, 35], \"cameras\": [%1], \"prefs\": {%2}, "
+                          "\"hubs\": [%3]}")
+        .arg(cameras, prefs, hubs)
         .toUtf8();
+}
+
+const QString TwoCameras = QStringLiteral("{\"name\": \"A\", \"ip\": \"10.0.0.2\", \"type\": 1}, "
+                                          "{\"name\": \"B\", \"ip\": \"10.0.0.1\", \"type\": 1}");
+const QString Hubs = QStringLiteral(
+    "{\"ip\": \"10.0.1.1\", \"syncMode\": 0, \"frequency\": 2000, \"frequencies\": [1000, 2000]}, "
+    "{\"ip\": \"10.0.1.2\", \"syncMode\": 1}, {\"ip\": \"10.0.1.3\", \"state\": \"disconnected\"}");
+
+const QString DiagramCameras = QStringLiteral(
+    "{\"name\": \"A\", \"ip\": \"10.0.0.1\", \"type\": 1, \"model\": \"HX-1 type A model 2\"}, "
+    "{\"name\": \"B\", \"ip\": \"10.0.0.2\", \"type\": 1}");
+const QString MixedTypes = QStringLiteral("{\"name\": \"A\", \"ip\": \"10.0.0.1\", \"type\": 1}, "
+                                          "{\"name\": \"B\", \"ip\": \"10.0.0.2\", \"type\": 35}, "
+                                          "{\"name\": \"C\", \"ip\": \"10.0.0.3\", \"type\": 23}");
+const QString ExternalPrefs = QStringLiteral("\"sync/external\": true");
+const QString ChainPrefs = QStringLiteral("\"sync/external\": false");
+const QString SyncingHub
+    = QStringLiteral("{\"ip\": \"10.0.1.1\", \"syncMode\": 0, \"frequency\": 1000}");
+
+// "name@x,y,w,h", "name:text", "name!" (absent), "name#N" (how many), "@minHeight=N", and
+// "x,y=colour" for a pixel of the rendered diagram.
+QString describe(QWidget* diagram, const QString& query)
+{
+    if (query.at(0).isDigit()) {
+        const QStringList xy = query.section(QLatin1Char('='), 0, 0).split(QLatin1Char(','));
+        const QColor c = diagram->grab().toImage().pixelColor(xy.at(0).toInt(), xy.at(1).toInt());
+        const QString colour = c == QColor(Qt::green) ? QStringLiteral("green")
+            : c == QColor(Qt::red)                    ? QStringLiteral("red")
+            : c == QColor(Qt::blue)                   ? QStringLiteral("blue")
+                                                      : QStringLiteral("other");
+        return query.section(QLatin1Char('='), 0, 0) + QLatin1Char('=') + colour;
+    }
+    if (query.startsWith(QLatin1String("@minHeight")))
+        return QStringLiteral("@minHeight=%1").arg(diagram->minimumHeight());
+    if (query.contains(QLatin1Char('#'))) {
+        const QString name = query.section(QLatin1Char('#'), 0, 0);
+        return name + QLatin1Char('#')
+            + QString::number(
+                diagram->findChildren<QWidget*>(name, Qt::FindDirectChildrenOnly).size());
+    }
+    const bool absent = query.endsWith(QLatin1Char('!'));
+    const QString name = query.section(QRegularExpression(QStringLiteral("[@:!]")), 0, 0);
+    QWidget* child = nullptr;
+    for (QObject* object : diagram->children()) {
+        if (object->objectName() == name) {
+            child = qobject_cast<QWidget*>(object);
+            break;
+        }
+    }
+    if (absent)
+        return child ? name + QStringLiteral(" exists") : name + QLatin1Char('!');
+    if (!child)
+        return name + QStringLiteral(" missing");
+    if (query.contains(QLatin1Char(':')))
+        return name + QLatin1Char(':') + qobject_cast<QLabel*>(child)->text().replace('\n', '|');
+    const QRect g = child->geometry();
+    return QStringLiteral("%1@%2,%3,%4,%5")
+        .arg(name)
+        .arg(g.x())
+        .arg(g.y())
+        .arg(g.width())
+        .arg(g.height());
 }
 
 const QString Cameras = QStringLiteral(
@@ -177,12 +212,35 @@ QByteArray cameraSet(const QStringList& cameras)
             entry += QStringLiteral(", ") + extra;
         entries.append(entry + QStringLiteral("}"));
     }
-    return QStringLiteral("{\"syncCapableTypes\": [1, 2], \"cameras\": [%1]}")
-        .arg(entries.join(QStringLiteral(", ")))
-        .toUtf8();
+    return scenario(entries.join(QStringLiteral(", ")));
 }
 
 } // namespace
+
+QStringList tst_SyncDialog::Run::calls(const QString& call, const QString& field) const
+{
+    QStringList result;
+    for (const QJsonObject& event : events) {
+        if (event.value(QStringLiteral("call")).toString() == call)
+            result.append(event.value(field).toVariant().toString());
+    }
+    return result;
+}
+
+tst_SyncDialog::Run tst_SyncDialog::run(const QByteArray& scenario, const QJsonArray& steps,
+    const QStringList& clicks, int stepTimeoutMs)
+{
+    QTemporaryDir dir;
+    HST_Options options = pressOptions(scenario, dir.filePath(QStringLiteral("prefs.ini")));
+    options.steps = steps;
+    options.answers = clicks;
+    options.stepTimeoutMs = stepTimeoutMs;
+    HST_Application application(options);
+    Run result;
+    result.code = application.run();
+    result.events = application.recorder()->events();
+    return result;
+}
 
 void tst_SyncDialog::refusals_data()
 {
@@ -280,38 +338,38 @@ void tst_SyncDialog::flow_data()
         "sync/generator/frequency", "sync/generator/input", "sync/triggerSignalPolarity" };
 
     QTest::newRow("chain: master first, everything stored with the master")
-        << world(Cameras, ",\"prefs\": {\"sync/masterCamera\": \"10.0.0.2\"}")
+        << scenario(Cameras, "\"sync/masterCamera\": \"10.0.0.2\"")
         << QStringList { "Sync execute", "OK", "OK", "Sync quit" } << QStringList { Confirm }
         << "10.0.0.2,10.0.0.1,10.0.0.3|10.0.0.2|false"
         << QStringList { "Synchronization is complete." }
         << allSyncPrefs + QStringList { "sync/masterCamera" } << QStringList {};
     QTest::newRow("external: address order, master passed but not stored")
-        << world(Cameras, ",\"prefs\": {\"sync/external\": true}")
+        << scenario(Cameras, "\"sync/external\": true")
         << QStringList { "Sync execute", "OK", "OK", "Sync quit" } << QStringList { Confirm }
         << "10.0.0.1,10.0.0.2,10.0.0.3|10.0.0.1|true"
         << QStringList { "Synchronization is complete." } << allSyncPrefs << QStringList {};
     QTest::newRow("declined confirmation: nothing happens")
-        << world(Cameras) << QStringList { "Sync execute", "Cancel", "Sync quit" }
+        << scenario(Cameras) << QStringList { "Sync execute", "Cancel", "Sync quit" }
         << QStringList { Confirm } << QString() << QStringList {} << QStringList {}
         << QStringList {};
     QTest::newRow("erase confirmed: one question, both cameras erased in list order")
-        << world(ErasingCameras) << QStringList { "Sync execute", "OK", "OK", "OK", "Sync quit" }
+        << scenario(ErasingCameras) << QStringList { "Sync execute", "OK", "OK", "OK", "Sync quit" }
         << QStringList { Confirm, EraseQuestion } << "10.0.0.1,10.0.0.2,10.0.0.3|10.0.0.1|false"
         << QStringList { "Synchronization is complete." }
         << allSyncPrefs + QStringList { "sync/masterCamera" }
         << QStringList { "10.0.0.1", "10.0.0.3" };
     QTest::newRow("erase refused: nothing erased, no sync")
-        << world(ErasingCameras) << QStringList { "Sync execute", "OK", "Cancel", "Sync quit" }
+        << scenario(ErasingCameras) << QStringList { "Sync execute", "OK", "Cancel", "Sync quit" }
         << QStringList { Confirm, EraseQuestion } << QString() << QStringList {} << QStringList {}
         << QStringList {};
     QTest::newRow("quit with pending changes, Yes: syncs and stays open")
-        << world(Cameras, ",\"prefs\": {\"sync/nrack\": 1}")
+        << scenario(Cameras, "\"sync/nrack\": 1")
         << QStringList { "NRack_comboBox", "Sync quit", "Yes", "OK", "OK", "Sync quit" }
         << QStringList { Confirm } << "10.0.0.1,10.0.0.2,10.0.0.3|10.0.0.1|false"
         << QStringList { "Synchronization is complete." }
         << allSyncPrefs + QStringList { "sync/masterCamera" } << QStringList {};
     QTest::newRow("quit with pending changes, Cancel stays, No leaves unsynced")
-        << world(Cameras, ",\"prefs\": {\"sync/nrack\": 1}")
+        << scenario(Cameras, "\"sync/nrack\": 1")
         << QStringList { "NRack_comboBox", "Sync quit", "Cancel", "Sync quit", "No" }
         << QStringList {} << QString() << QStringList {} << QStringList {} << QStringList {};
 }
@@ -366,81 +424,6 @@ void tst_SyncDialog::flow()
     QCOMPARE(keys, stored);
     QCOMPARE(result.calls(QStringLiteral("eraseRecordedData"), QStringLiteral("camera")), erased);
 }
-
-namespace {
-
-QByteArray scenario(
-    const QString& cameras, const QString& prefs = QString(), const QString& hubs = QString())
-{
-    return QStringLiteral("{\"syncCapableTypes\": [1, 23, 35], \"cameras\": [%1], \"prefs\": {%2}, "
-                          "\"hubs\": [%3]}")
-        .arg(cameras, prefs, hubs)
-        .toUtf8();
-}
-
-const QString TwoCameras = QStringLiteral("{\"name\": \"A\", \"ip\": \"10.0.0.2\", \"type\": 1}, "
-                                          "{\"name\": \"B\", \"ip\": \"10.0.0.1\", \"type\": 1}");
-const QString Hubs = QStringLiteral(
-    "{\"ip\": \"10.0.1.1\", \"syncMode\": 0, \"frequency\": 2000, \"frequencies\": [1000, 2000]}, "
-    "{\"ip\": \"10.0.1.2\", \"syncMode\": 1}, {\"ip\": \"10.0.1.3\", \"state\": \"disconnected\"}");
-
-const QString DiagramCameras = QStringLiteral(
-    "{\"name\": \"A\", \"ip\": \"10.0.0.1\", \"type\": 1, \"model\": \"HX-1 type A model 2\"}, "
-    "{\"name\": \"B\", \"ip\": \"10.0.0.2\", \"type\": 1}");
-const QString MixedTypes = QStringLiteral("{\"name\": \"A\", \"ip\": \"10.0.0.1\", \"type\": 1}, "
-                                          "{\"name\": \"B\", \"ip\": \"10.0.0.2\", \"type\": 35}, "
-                                          "{\"name\": \"C\", \"ip\": \"10.0.0.3\", \"type\": 23}");
-const QString ExternalPrefs = QStringLiteral("\"sync/external\": true");
-const QString ChainPrefs = QStringLiteral("\"sync/external\": false");
-const QString SyncingHub
-    = QStringLiteral("{\"ip\": \"10.0.1.1\", \"syncMode\": 0, \"frequency\": 1000}");
-
-// "name@x,y,w,h", "name:text", "name!" (absent), "name#N" (how many), "@minHeight=N", and
-// "x,y=colour" for a pixel of the rendered diagram.
-QString describe(QWidget* diagram, const QString& query)
-{
-    if (query.at(0).isDigit()) {
-        const QStringList xy = query.section(QLatin1Char('='), 0, 0).split(QLatin1Char(','));
-        const QColor c = diagram->grab().toImage().pixelColor(xy.at(0).toInt(), xy.at(1).toInt());
-        const QString colour = c == QColor(Qt::green) ? QStringLiteral("green")
-            : c == QColor(Qt::red)                    ? QStringLiteral("red")
-            : c == QColor(Qt::blue)                   ? QStringLiteral("blue")
-                                                      : QStringLiteral("other");
-        return query.section(QLatin1Char('='), 0, 0) + QLatin1Char('=') + colour;
-    }
-    if (query.startsWith(QLatin1String("@minHeight")))
-        return QStringLiteral("@minHeight=%1").arg(diagram->minimumHeight());
-    if (query.contains(QLatin1Char('#'))) {
-        const QString name = query.section(QLatin1Char('#'), 0, 0);
-        return name + QLatin1Char('#')
-            + QString::number(
-                diagram->findChildren<QWidget*>(name, Qt::FindDirectChildrenOnly).size());
-    }
-    const bool absent = query.endsWith(QLatin1Char('!'));
-    const QString name = query.section(QRegularExpression(QStringLiteral("[@:!]")), 0, 0);
-    QWidget* child = nullptr;
-    for (QObject* object : diagram->children()) {
-        if (object->objectName() == name) {
-            child = qobject_cast<QWidget*>(object);
-            break;
-        }
-    }
-    if (absent)
-        return child ? name + QStringLiteral(" exists") : name + QLatin1Char('!');
-    if (!child)
-        return name + QStringLiteral(" missing");
-    if (query.contains(QLatin1Char(':')))
-        return name + QLatin1Char(':') + qobject_cast<QLabel*>(child)->text().replace('\n', '|');
-    const QRect g = child->geometry();
-    return QStringLiteral("%1@%2,%3,%4,%5")
-        .arg(name)
-        .arg(g.x())
-        .arg(g.y())
-        .arg(g.width())
-        .arg(g.height());
-}
-
-} // namespace
 
 // "name=N" sets a combo box's index; "name" clicks a button.
 void tst_SyncDialog::act(QDialog* dialog, const QString& action)
