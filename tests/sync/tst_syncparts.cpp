@@ -1,9 +1,14 @@
 #include "../ScenarioHost.h"
+
+#include "host/HST_CameraState.h"
+#include "host/HST_Document.h"
 #include "host/HST_Host.h"
 #include "host/HST_Recorder.h"
 #include "host/HST_Scenario.h"
 #include "sync/GUI_SyncControlSearchSetting.h"
 #include "sync/GUI_SyncControlSetting.h"
+#include "sync/SyncCameraOrder.h"
+#include "util/UTL_TextHelpers.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -17,6 +22,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <vector>
 
 Q_DECLARE_METATYPE(QDialogButtonBox::StandardButton)
 
@@ -64,9 +70,47 @@ QStringList tableTexts(QDialog* dialog)
     return texts;
 }
 
+// Cameras written as "address flag class", e.g. "10.0.0.2 1 0"; all in one trigger mode.
+class CameraSet
+{
+public:
+    CameraSet(const QStringList& rows, int triggerMode)
+    {
+        for (const QString& row : rows) {
+            const QStringList f = row.split(QLatin1Char(' '));
+            auto state = std::make_unique<HST_CameraState>();
+            state->spec.ip = f.at(0);
+            state->spec.exposureTimingFlag = f.at(1).toInt();
+            state->spec.exposureTimingClass = f.at(2).toInt();
+            state->spec.triggerMode = triggerMode;
+            auto doc = std::make_unique<HST_Document>(int(m_docs.size()), state.get(), 0);
+            state->primary = doc.get();
+            cameras.append(doc->asCamera());
+            m_states.push_back(std::move(state));
+            m_docs.push_back(std::move(doc));
+        }
+    }
+
+    QList<DOC_Camera*> cameras;
+
+private:
+    std::vector<std::unique_ptr<HST_CameraState>> m_states;
+    std::vector<std::unique_ptr<HST_Document>> m_docs;
+};
+
+QStringList addresses(const QList<DOC_Camera*>& cameras)
+{
+    QStringList result;
+    for (DOC_Camera* camera : cameras)
+        result.append(camera->ipAddress(true));
+    return result;
+}
+
 } // namespace
 
-class tst_AddressDialogs : public QObject
+// The sync parts on their own against the reference host's objects: the hub address dialogs
+// and the order in which cameras are synced.
+class tst_SyncParts : public QObject
 {
     Q_OBJECT
 
@@ -78,6 +122,10 @@ private slots:
     void searchList();
     void changeAddress_data();
     void changeAddress();
+    void sort_data();
+    void sort();
+    void candidates_data();
+    void candidates();
 
 private:
     QStringList hostAddresses();
@@ -91,7 +139,7 @@ private:
     bool m_sawBusyDialog = false;
 };
 
-void tst_AddressDialogs::init()
+void tst_SyncParts::init()
 {
     m_dir.reset(new QTemporaryDir);
     m_recorder.reset(new HST_Recorder);
@@ -111,7 +159,7 @@ void tst_AddressDialogs::init()
     m_answerer.start();
 }
 
-void tst_AddressDialogs::cleanup()
+void tst_SyncParts::cleanup()
 {
     m_answerer.stop();
     m_answerer.disconnect();
@@ -120,14 +168,14 @@ void tst_AddressDialogs::cleanup()
     m_dir.reset();
 }
 
-QStringList tst_AddressDialogs::hostAddresses()
+QStringList tst_SyncParts::hostAddresses()
 {
     QStringList list;
     m_host->addresses(list, true);
     return list;
 }
 
-QList<QJsonObject> tst_AddressDialogs::linkCoreCalls(const QString& op)
+QList<QJsonObject> tst_SyncParts::linkCoreCalls(const QString& op)
 {
     QList<QJsonObject> calls;
     for (const QJsonObject& event : m_recorder->events(QStringLiteral("linkCore"))) {
@@ -138,7 +186,7 @@ QList<QJsonObject> tst_AddressDialogs::linkCoreCalls(const QString& op)
 }
 
 // Texts of the message boxes ("message") or reported exceptions ("reportException").
-QStringList tst_AddressDialogs::shown(const QString& call)
+QStringList tst_SyncParts::shown(const QString& call)
 {
     QStringList texts;
     for (const QJsonObject& event : m_recorder->events(call))
@@ -146,7 +194,7 @@ QStringList tst_AddressDialogs::shown(const QString& call)
     return texts;
 }
 
-void tst_AddressDialogs::formsStartFromTheHost()
+void tst_SyncParts::formsStartFromTheHost()
 {
     m_host->addSearchAddress(QStringLiteral("10.0.0.4"));
     GUI_SyncControlSearchSetting search(m_host.get(), nullptr);
@@ -166,7 +214,7 @@ void tst_AddressDialogs::formsStartFromTheHost()
         QStringLiteral("0.0.0"));
 }
 
-void tst_AddressDialogs::searchList_data()
+void tst_SyncParts::searchList_data()
 {
     // Actions: "a.b.c.d" typed into the fields ("paste:" before an octet pastes it), "add",
     // "select:N", "delete", and last "Ok" or "Cancel" to end the dialog.
@@ -207,7 +255,7 @@ void tst_AddressDialogs::searchList_data()
         << start;
 }
 
-void tst_AddressDialogs::searchList()
+void tst_SyncParts::searchList()
 {
     QFETCH(QStringList, actions);
     QFETCH(QStringList, sent);
@@ -253,7 +301,7 @@ void tst_AddressDialogs::searchList()
     QCOMPARE(hostAddresses(), kept);
 }
 
-void tst_AddressDialogs::changeAddress_data()
+void tst_SyncParts::changeAddress_data()
 {
     QTest::addColumn<QString>("hub");
     QTest::addColumn<QStringList>("typed");
@@ -282,7 +330,7 @@ void tst_AddressDialogs::changeAddress_data()
         << QString() << QString() << start;
 }
 
-void tst_AddressDialogs::changeAddress()
+void tst_SyncParts::changeAddress()
 {
     QFETCH(QString, hub);
     QFETCH(QStringList, typed);
@@ -318,5 +366,79 @@ void tst_AddressDialogs::changeAddress()
     QCOMPARE(hostAddresses(), expected);
 }
 
-QTEST_MAIN(tst_AddressDialogs)
-#include "tst_addressdialogs.moc"
+void tst_SyncParts::sort_data()
+{
+    QTest::addColumn<QStringList>("cameras");
+    QTest::addColumn<QString>("master");
+    QTest::addColumn<bool>("external");
+    QTest::addColumn<int>("flagFirst");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("external: addresses compare unsigned, master keeps its place")
+        << QStringList { "192.168.0.1 0 0", "10.0.0.2 0 0", "10.0.0.1 0 0" } << "192.168.0.1"
+        << true << 1 << QStringList { "10.0.0.1", "10.0.0.2", "192.168.0.1" };
+    QTest::newRow("chain unmixed ignores flag first: class 1 before plain")
+        << QStringList { "10.0.0.1 0 0", "10.0.0.2 0 1", "10.0.0.3 0 0", "10.0.0.4 0 1" }
+        << "0.0.0.0" << false << 1
+        << QStringList { "10.0.0.2", "10.0.0.4", "10.0.0.1", "10.0.0.3" };
+    QTest::newRow("chain mixed, flag first: flag 1, then class 1, then the rest")
+        << QStringList { "10.0.0.1 0 1", "10.0.0.2 0 0", "10.0.0.3 1 0", "10.0.0.4 2 0" }
+        << "0.0.0.0" << false << 1
+        << QStringList { "10.0.0.3", "10.0.0.1", "10.0.0.2", "10.0.0.4" };
+    QTest::newRow("chain mixed without flag first keeps order A")
+        << QStringList { "10.0.0.1 0 1", "10.0.0.2 1 0", "10.0.0.3 0 0" } << "0.0.0.0" << false << 0
+        << QStringList { "10.0.0.1", "10.0.0.3", "10.0.0.2" };
+    QTest::newRow("chain: master first whatever its rank")
+        << QStringList { "10.0.0.1 0 1", "10.0.0.2 0 0", "10.0.0.9 1 0" } << "10.0.0.9" << false
+        << 0 << QStringList { "10.0.0.9", "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("chain: unknown master leaves the sort") << QStringList { "10.0.0.2 0 0",
+        "10.0.0.1 0 0" } << "10.9.9.9" << false << 0 << QStringList { "10.0.0.1", "10.0.0.2" };
+}
+
+void tst_SyncParts::sort()
+{
+    QFETCH(QStringList, cameras);
+    QFETCH(QString, master);
+    QFETCH(bool, external);
+    QFETCH(int, flagFirst);
+    QFETCH(QStringList, expected);
+    CameraSet set(cameras, 1);
+    sortCameras(set.cameras, ipToNumber(master), external, flagFirst);
+    QCOMPARE(addresses(set.cameras), expected);
+}
+
+void tst_SyncParts::candidates_data()
+{
+    QTest::addColumn<QStringList>("cameras");
+    QTest::addColumn<int>("triggerMode");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("unmixed: class 1 cameras") << QStringList { "10.0.0.1 0 0", "10.0.0.2 0 1",
+        "10.0.0.3 0 1" } << 0 << QStringList { "10.0.0.2", "10.0.0.3" };
+    QTest::newRow("unmixed without class 1: the plain ones") << QStringList { "10.0.0.1 0 0",
+        "10.0.0.2 0 0" } << 0 << QStringList { "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("all flagged: the flagged ones") << QStringList { "10.0.0.1 1 0", "10.0.0.2 1 0" }
+                                                   << 0 << QStringList { "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("class 1 everywhere is not mixed") << QStringList { "10.0.0.1 0 1",
+        "10.0.0.2 0 1" } << 1 << QStringList { "10.0.0.1", "10.0.0.2" };
+    QTest::newRow("mixed, flag first: the flagged ones") << QStringList { "10.0.0.1 0 1",
+        "10.0.0.2 1 0", "10.0.0.3 0 0" } << 1 << QStringList { "10.0.0.2" };
+    QTest::newRow("mixed, flag first, flag only on class 1: none")
+        << QStringList { "10.0.0.1 1 1", "10.0.0.2 0 0" } << 2 << QStringList {};
+    QTest::newRow("mixed, no flag first: class 1") << QStringList { "10.0.0.1 0 1", "10.0.0.2 1 0",
+        "10.0.0.3 0 0" } << 3 << QStringList { "10.0.0.1" };
+    QTest::newRow("mixed, no flag first, no class 1: the plain ones")
+        << QStringList { "10.0.0.1 0 0", "10.0.0.2 1 0" } << 0 << QStringList { "10.0.0.1" };
+}
+
+void tst_SyncParts::candidates()
+{
+    QFETCH(QStringList, cameras);
+    QFETCH(int, triggerMode);
+    QFETCH(QStringList, expected);
+    CameraSet set(cameras, triggerMode);
+    QCOMPARE(addresses(masterCandidates(set.cameras)), expected);
+}
+
+QTEST_MAIN(tst_SyncParts)
+#include "tst_syncparts.moc"
