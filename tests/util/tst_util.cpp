@@ -129,12 +129,8 @@ void tst_Util::parameterText_data()
     QTest::newRow("trailing blank trimmed") << FunctionLogGuard::parameter(
         QStringLiteral("text"), QStringLiteral("Do you want to execute?"))
                                             << QStringLiteral("\"[text:Do you want to execute?]\"");
-    QTest::newRow("bool reads true") << FunctionLogGuard::parameter(QStringLiteral("on"), true)
-                                     << QStringLiteral("\"[on:true]\"");
     QTest::newRow("no document shown as Invalid") << FunctionLogGuard::parameter(
         QStringLiteral("docKey"), -1) << QStringLiteral("\"[docKey:Invalid]\"");
-    QTest::newRow("replacement is plain text") << FunctionLogGuard::parameter(
-        QStringLiteral("docKey"), -12) << QStringLiteral("\"[docKey:Invalid2]\"");
 }
 
 void tst_Util::parameterText()
@@ -319,7 +315,6 @@ void tst_Util::escape_data()
     QTest::addColumn<int>("buttons");
     QTest::addColumn<bool>("visibleAfter");
     QTest::newRow("bar that ignores Escape stays") << false << true << "Cancel" << 1 << true;
-    QTest::newRow("plain bar closes like QDialog") << false << false << "Cancel" << 1 << false;
     QTest::newRow("running bar without cancel text: no button, stays")
         << true << true << "" << 0 << true;
     QTest::newRow("running bar with cancel text: one button, still stays")
