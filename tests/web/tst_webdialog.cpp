@@ -2,18 +2,41 @@
 // page's global object, what the page gets back, the host's page helpers, and the fence
 // around qrc:.
 #include "../MessageCapture.h"
-#include "WebTestHost.h"
 
+#include "host/HST_Host.h"
+#include "host/HST_Recorder.h"
+#include "host/HST_Scenario.h"
 #include "web/GUI_Dialog.h"
 #include "web/GUI_WebView.h"
 #include "web/GUI_WebViewDialog.h"
 #include "web/JS_Mediator_Dialog.h"
 
+#include <QTemporaryDir>
 #include <QWebFrame>
 #include <QWebPage>
 #include <QtTest>
 
 #include <memory>
+
+// The reference host with a test's knobs: translation marks what it translated, and mdiWidget
+// gives what the test sets.
+class WebTestHost : public HST_Host
+{
+public:
+    WebTestHost(HST_Recorder* recorder, const QString& prefsPath)
+        : HST_Host(HST_Scenario(), recorder, prefsPath)
+    {
+    }
+
+    QObject* mdi = nullptr;
+
+    QObject* mdiWidget() override { return mdi; }
+
+    QString translate(const QString& sourceText, int reserved = 0) override
+    {
+        return QStringLiteral("T(") + HST_Host::translate(sourceText, reserved) + QLatin1Char(')');
+    }
+};
 
 class tst_WebDialog : public QObject
 {
@@ -35,7 +58,6 @@ private slots:
     void enablingPresentCloseButtonKeepsWindow();
 
 private:
-    bool openDialog();
     QVariant run(const QString& script);
     QStringList logLines() const;
 
@@ -50,7 +72,11 @@ void tst_WebDialog::init()
 {
     m_recorder.reset(new HST_Recorder);
     m_host.reset(new WebTestHost(m_recorder.get(), m_dir.filePath(QStringLiteral("p.ini"))));
-    QVERIFY(openDialog());
+    m_mediator = new JS_Mediator_Dialog(m_host.get(), QStringLiteral("test_dialog"));
+    m_dialog.reset(new GUI_WebViewDialog(m_host.get(), QStringLiteral("Bridge"),
+        QStringLiteral("qrc:/webtest/bridge.html"), m_mediator, nullptr));
+    QSignalSpy loaded(m_dialog->webView(), &QWebView::loadFinished);
+    QVERIFY(loaded.wait(10000) && loaded.first().first().toBool());
 }
 
 void tst_WebDialog::cleanup()
@@ -58,15 +84,6 @@ void tst_WebDialog::cleanup()
     m_dialog.reset();
     m_host.reset();
     m_recorder.reset();
-}
-
-bool tst_WebDialog::openDialog()
-{
-    m_mediator = new JS_Mediator_Dialog(m_host.get(), QStringLiteral("test_dialog"));
-    m_dialog.reset(new GUI_WebViewDialog(m_host.get(), QStringLiteral("Bridge"),
-        QStringLiteral("qrc:/webtest/bridge.html"), m_mediator, nullptr));
-    QSignalSpy loaded(m_dialog->webView(), &QWebView::loadFinished);
-    return loaded.wait(10000) && loaded.first().first().toBool();
 }
 
 QVariant tst_WebDialog::run(const QString& script)
