@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QJsonArray>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -24,31 +23,15 @@ private slots:
     void generatorGoneIsSkippedSilently();
 
 private:
-    QByteArray scenario(const QString& generatorOptions = QString()) const;
-    QList<QJsonObject> run(const QByteArray& scenario, const QJsonArray& steps,
-        const QStringList& answers = {}, const std::function<void()>& tick = {});
+    QByteArray scenario() const;
+    // The host presses the sync button and answers with the given clicks; tick runs meanwhile.
+    QList<QJsonObject> run(const QStringList& answers, const std::function<void()>& tick = {});
     QStringList commands() const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
 namespace {
-
-HST_Options pressOptions(const QByteArray& scenario, const QString& prefsFile)
-{
-    HST_Options options;
-    options.scenarioJson = scenario;
-    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
-    options.prefsFile = prefsFile;
-    options.press = QStringLiteral("synccontrol");
-    options.quit = true;
-    return options;
-}
-
-QJsonObject click(const QString& target)
-{
-    return { { QStringLiteral("click"), target } };
-}
 
 QList<QJsonObject> only(const QList<QJsonObject>& events, const QString& call)
 {
@@ -68,24 +51,28 @@ void tst_SyncGenerator::init()
     m_dir.reset(new QTemporaryDir);
 }
 
-QByteArray tst_SyncGenerator::scenario(const QString& generatorOptions) const
+QByteArray tst_SyncGenerator::scenario() const
 {
     return QStringLiteral(
         "{\"syncCapableTypes\": [1], \"cameras\": [{\"ip\": \"10.0.0.1\", \"type\": 1},"
         " {\"ip\": \"10.0.0.2\", \"type\": 1}],"
-        " \"generator\": {\"listen\": \"127.0.0.1\", \"log\": \"%1\"%2},"
+        " \"generator\": {\"listen\": \"127.0.0.1\", \"log\": \"%1\"},"
         " \"prefs\": {\"sync/generator/address\": \"127.0.0.1\","
         " \"sync/generator/tryconnect\": true, \"sync/generator/ctrl\": true,"
         " \"sync/external\": true, \"sync/generator/frequency\": 3000}}")
-        .arg(m_dir->filePath(QStringLiteral("commands.log")), generatorOptions)
+        .arg(m_dir->filePath(QStringLiteral("commands.log")))
         .toUtf8();
 }
 
-QList<QJsonObject> tst_SyncGenerator::run(const QByteArray& world, const QJsonArray& steps,
+QList<QJsonObject> tst_SyncGenerator::run(
     const QStringList& answers, const std::function<void()>& tick)
 {
-    HST_Options options = pressOptions(world, m_dir->filePath(QStringLiteral("prefs.ini")));
-    options.steps = steps;
+    HST_Options options;
+    options.scenarioJson = scenario();
+    options.pluginFile = QStringLiteral(SYNC_PLUGIN_FILE);
+    options.prefsFile = m_dir->filePath(QStringLiteral("prefs.ini"));
+    options.press = QStringLiteral("synccontrol");
+    options.quit = true;
     options.answers = answers;
     options.stepTimeoutMs = 15000;
     HST_Application application(options);
@@ -110,8 +97,7 @@ QStringList tst_SyncGenerator::commands() const
 
 void tst_SyncGenerator::generatorSetUpBeforeTheCameras()
 {
-    const QList<QJsonObject> events
-        = run(scenario(), { click("Sync execute"), click("OK"), click("OK"), click("Sync quit") });
+    const QList<QJsonObject> events = run({ "Sync execute", "OK", "OK", "Sync quit" });
     const QList<QJsonObject> requests = only(events, QStringLiteral("applySync"));
     QCOMPARE(requests.size(), 1);
     QCOMPARE(requests.first().value(QStringLiteral("generatorControl")).toBool(), true);
@@ -137,7 +123,7 @@ void tst_SyncGenerator::generatorGoneIsSkippedSilently()
     // has its log at this path.
     bool frozen = false;
     const QList<QJsonObject> events
-        = run(scenario(), {}, { "Sync execute", "OK", "OK", "Sync quit" }, [&frozen, marker] {
+        = run({ "Sync execute", "OK", "OK", "Sync quit" }, [&frozen, marker] {
               QWidget* modal = QApplication::activeModalWidget();
               if (frozen || !modal || modal->objectName() != QLatin1String("GUI_SyncControl"))
                   return;
