@@ -1,6 +1,6 @@
 // The generator connect dialog end to end: the plug-in's page in a real web view, the reference
 // host (its page resources, message boxes and script steps), our VISA library and the simulated
-// instrument that the scenario's "generator" key starts. Inside a private network namespace.
+// instrument. Inside a private network namespace.
 #include "../NetNamespace.h"
 
 #include "generator/DOC_VIGen.h"
@@ -17,7 +17,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -68,42 +67,32 @@ void tst_ConnectDialog::initTestCase()
 
 void tst_ConnectDialog::okButton_data()
 {
-    QTest::addColumn<QJsonObject>("generator");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("warning");
     QTest::addColumn<bool>("traffic");
 
-    const QJsonObject plain;
     QTest::newRow("supported instrument is accepted and stays connected")
-        << plain << "127.0.0.1" << QString() << true;
-    QTest::newRow("empty text closes at once without traffic")
-        << plain << QString() << QString() << false;
+        << "127.0.0.1" << QString() << true;
+    QTest::newRow("empty text closes at once without traffic") << QString() << QString() << false;
     QTest::newRow("text that is no address keeps it open without traffic")
-        << plain << "signal" << couldNotConnect << false;
-    QTest::newRow("unreachable address keeps it open")
-        << plain << "127.0.0.2" << couldNotConnect << false;
+        << "signal" << couldNotConnect << false;
+    QTest::newRow("unreachable address keeps it open") << "127.0.0.2" << couldNotConnect << false;
 }
 
 void tst_ConnectDialog::okButton()
 {
-    QFETCH(QJsonObject, generator);
     QFETCH(QString, text);
     QFETCH(QString, warning);
     QFETCH(bool, traffic);
 
     const QString commandLog = m_dir.filePath(QString::fromLatin1(QTest::currentDataTag()));
-    generator.insert(QStringLiteral("log"), commandLog);
-    HST_Scenario scenario;
-    QString problem;
-    QVERIFY2(
-        HST_Scenario::fromJson(QJsonDocument(QJsonObject { { "generator", generator } }).toJson(),
-            QStringLiteral("test"), scenario, problem),
-        qPrintable(problem));
     HST_GeneratorSimulator simulator;
-    QVERIFY2(simulator.start(scenario.generator, problem), qPrintable(problem));
+    QString problem;
+    QVERIFY2(simulator.start({ { "listen", "127.0.0.1" }, { "log", commandLog } }, problem),
+        qPrintable(problem));
 
     HST_Recorder recorder;
-    HST_Host host(scenario, &recorder, m_dir.filePath(QStringLiteral("prefs.ini")));
+    HST_Host host(HST_Scenario(), &recorder, m_dir.filePath(QStringLiteral("prefs.ini")));
     host.setPrefString(addressKey, QStringLiteral("old"));
     DOC_VIGen driver(&host);
     QVERIFY(driver.loadLibrary());
