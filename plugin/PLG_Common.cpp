@@ -3,7 +3,7 @@
 #include "plugin/APP_Host.h"
 #include "plugin/APP_PauseGuard.h"
 #include "plugin/DOC_Interface.h"
-#include "plugin/SyncKeys.h"
+#include "plugin/SharedKeys.h"
 #include "util/UTL_Barrier.h"
 #include "web/GUI_ModelessPatternDialog.h"
 #include "web/JS_Mediator.h"
@@ -96,7 +96,7 @@ QString PLG_Common::pageSource()
 
 bool PLG_Common::isMultiLockTool() const
 {
-    return m_name == SyncKeys::TOOL_MULTILOCK;
+    return m_name == TOOL_MULTILOCK;
 }
 
 void PLG_Common::execute()
@@ -354,7 +354,7 @@ bool PLG_Common::isActiveFor(DOC_Interface* doc, int)
         default:
             if (isMultiLockTool())
                 return m_host->isMultiLock();
-            if (m_name == SyncKeys::TOOL_ZOOMFIT)
+            if (m_name == TOOL_ZOOMFIT)
                 return m_host->zoomValue(0) <= 0;
             return doc->isToolSet(pageName());
         }

@@ -1,7 +1,7 @@
 #include "plugin/PLG_synccontrol.h"
 
 #include "plugin/APP_Host.h"
-#include "plugin/SyncKeys.h"
+#include "plugin/SharedKeys.h"
 #include "sync/GUI_SyncControl.h"
 #include "util/UTL_Barrier.h"
 
@@ -70,7 +70,7 @@ PLG_Interface* makeSyncControlPlugin()
     if (!plugin)
         return nullptr;
     plugin->m_syncControl = nullptr;
-    plugin->m_name = SyncKeys::PLUGIN_NAME_SYNCCONTROL;
+    plugin->m_name = PLUGIN_NAME_SYNCCONTROL;
     plugin->m_pluginType = 5;
     return plugin;
 }

@@ -8,7 +8,7 @@
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
 #include "plugin/DOC_LinkCore.h"
-#include "plugin/SyncKeys.h"
+#include "plugin/SharedKeys.h"
 #include "sync/GUI_SyncControlCombobox.h"
 #include "sync/GUI_SyncControlSearchSetting.h"
 #include "sync/GUI_SyncControlSetting.h"
@@ -95,7 +95,7 @@ GUI_SyncControl::~GUI_SyncControl()
     UTL_Barrier::sealed(m_host, "GUI_SyncControl::~GUI_SyncControl", [this] {
         static_cast<APP_LinkCoreManager*>(m_host)->shutdown();
         const bool connected = m_generatorAvailable && m_generator->isConnected();
-        m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, connected);
+        m_host->setPrefBool(PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, connected);
     });
     UTL_Barrier::sealed(
         m_host, "GUI_SyncControl::~GUI_SyncControl", [this] { m_generator->disconnect(); });
@@ -162,7 +162,7 @@ void GUI_SyncControl::init()
     });
     UTL_Barrier::reported(m_host, [this] {
         const bool tryConnect
-            = m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, false);
+            = m_host->getPrefBool(PREF_KEY_SYNCCONTROL_GENERATOR_TRYCONNECT, false);
         m_generatorAvailable = m_generator->loadLibrary();
         if (tryConnect && m_generatorAvailable && isIpAddress(m_generatorAddress)) {
             m_generator->connect(0, ipToNumber(m_generatorAddress));
@@ -265,7 +265,7 @@ void GUI_SyncControl::guiInit()
     ui.NRack_comboBox->addItem(tr("Use Link Core"), 2);
     section([&] {
         // An older version stored a bool, or its text.
-        const QVariant stored = m_host->getPrefVariant(SyncKeys::PREF_KEY_SYNCCONTROL_NRACK, 0);
+        const QVariant stored = m_host->getPrefVariant(PREF_KEY_SYNCCONTROL_NRACK, 0);
         const bool oldForm = stored.type() == QVariant::Bool
             || (stored.type() == QVariant::String
                 && (stored.toString() == QLatin1String("true")
@@ -276,8 +276,7 @@ void GUI_SyncControl::guiInit()
     });
 
     section([&] {
-        const bool external
-            = m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_EXTERNAL, QVariant());
+        const bool external = m_host->getPrefBool(PREF_KEY_SYNCCONTROL_EXTERNAL, QVariant());
         if (external)
             ui.sync_external_radio->setChecked(true);
         else
@@ -298,8 +297,7 @@ void GUI_SyncControl::guiInit()
     ui.masterCameras_comboBox->clear();
     QString storedMaster;
     section([&] {
-        m_host->getPrefString(
-            storedMaster, SyncKeys::PREF_KEY_SYNCCONTROL_MASTER_CAMERA, QVariant());
+        m_host->getPrefString(storedMaster, PREF_KEY_SYNCCONTROL_MASTER_CAMERA, QVariant());
     });
     // A list that can't be worked out offers every camera; a camera that can't be read isn't
     // offered.
@@ -321,7 +319,7 @@ void GUI_SyncControl::guiInit()
 
     section([&] {
         ui.signal_generator_control_checkBox->setChecked(
-            m_host->getPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_CTRL, QVariant()));
+            m_host->getPrefBool(PREF_KEY_SYNCCONTROL_GENERATOR_CTRL, QVariant()));
     });
     m_savedGeneratorControl = ui.signal_generator_control_checkBox->isChecked();
 
@@ -331,16 +329,15 @@ void GUI_SyncControl::guiInit()
     for (const int value : qAsConst(frequencies))
         ui.frequency_comboBox->addItem(QString::number(value), QString::number(value));
     section([&] {
-        const int frequency
-            = m_host->getPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_FREQUENCY, 1000);
+        const int frequency = m_host->getPrefInt(PREF_KEY_SYNCCONTROL_GENERATOR_FREQUENCY, 1000);
         ui.frequency_comboBox->setCurrentIndex(std::max(0, frequencies.indexOf(frequency)));
     });
     m_savedFrequency = ui.frequency_comboBox->currentText().toInt();
 
     section([&] {
         QString address;
-        m_generatorAddress = m_host->getPrefString(
-            address, SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, QVariant());
+        m_generatorAddress
+            = m_host->getPrefString(address, PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, QVariant());
     });
 
     ui.sync_in_comboBox->clear();
@@ -348,7 +345,7 @@ void GUI_SyncControl::guiInit()
     ui.sync_in_comboBox->addItem(QStringLiteral("ON OTHERS POS"), 1);
     section([&] {
         ui.sync_in_comboBox->setCurrentIndex(
-            m_host->getPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_INPUT, 0));
+            m_host->getPrefInt(PREF_KEY_SYNCCONTROL_GENERATOR_INPUT, 0));
     });
     m_savedSyncIn = ui.sync_in_comboBox->currentData().toInt();
 
@@ -357,7 +354,7 @@ void GUI_SyncControl::guiInit()
     ui.trigger_sig_polarity_comboBox->addItem(QStringLiteral("TRIG NEG"), 1);
     section([&] {
         ui.trigger_sig_polarity_comboBox->setCurrentIndex(
-            m_host->getPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_TRIGGER_SIGNAL_POLARITY, 0));
+            m_host->getPrefInt(PREF_KEY_SYNCCONTROL_TRIGGER_SIGNAL_POLARITY, 0));
     });
     m_savedPolarity = ui.trigger_sig_polarity_comboBox->currentData().toInt();
 
@@ -392,7 +389,7 @@ void GUI_SyncControl::guiInit()
 
 void GUI_SyncControl::startHubManager()
 {
-    const QVariant stored = m_host->getPrefVariant(SyncKeys::PREF_KEY_SYNCCONTROL_NRACK, 0);
+    const QVariant stored = m_host->getPrefVariant(PREF_KEY_SYNCCONTROL_NRACK, 0);
     if (stored == QVariant(0))
         return;
     APP_LinkCoreManager* hubs = m_host;
@@ -715,24 +712,22 @@ void GUI_SyncControl::executeSync()
     m_host->showInformation(
         UTL_Messages::translate(m_host, QStringLiteral("Synchronization is complete.")), nullptr);
     m_savedDistributor = settings.distributor;
-    m_host->setPrefInt(SyncKeys::PREF_KEY_SYNCCONTROL_NRACK, m_savedDistributor);
+    m_host->setPrefInt(PREF_KEY_SYNCCONTROL_NRACK, m_savedDistributor);
     m_savedExternal = settings.external;
-    m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_EXTERNAL, m_savedExternal);
+    m_host->setPrefBool(PREF_KEY_SYNCCONTROL_EXTERNAL, m_savedExternal);
     m_savedGeneratorControl = ui.signal_generator_control_checkBox->isChecked();
-    m_host->setPrefBool(SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_CTRL, m_savedGeneratorControl);
+    m_host->setPrefBool(PREF_KEY_SYNCCONTROL_GENERATOR_CTRL, m_savedGeneratorControl);
     m_savedFrequency = ui.frequency_comboBox->currentData().toInt();
     m_host->setPrefString(
-        SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_FREQUENCY, QString::number(m_savedFrequency));
+        PREF_KEY_SYNCCONTROL_GENERATOR_FREQUENCY, QString::number(m_savedFrequency));
     m_savedSyncIn = ui.sync_in_comboBox->currentData().toInt();
-    m_host->setPrefString(
-        SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_INPUT, QString::number(m_savedSyncIn));
+    m_host->setPrefString(PREF_KEY_SYNCCONTROL_GENERATOR_INPUT, QString::number(m_savedSyncIn));
     m_savedPolarity = ui.trigger_sig_polarity_comboBox->currentData().toInt();
     m_host->setPrefString(
-        SyncKeys::PREF_KEY_SYNCCONTROL_TRIGGER_SIGNAL_POLARITY, QString::number(m_savedPolarity));
+        PREF_KEY_SYNCCONTROL_TRIGGER_SIGNAL_POLARITY, QString::number(m_savedPolarity));
     if (!settings.external && master) {
         m_appliedMaster = int(cameraAddress(master));
-        m_host->setPrefString(
-            SyncKeys::PREF_KEY_SYNCCONTROL_MASTER_CAMERA, master->ipAddress(true));
+        m_host->setPrefString(PREF_KEY_SYNCCONTROL_MASTER_CAMERA, master->ipAddress(true));
     }
     static_cast<APP_LinkCoreManager*>(m_host)->applyChanges();
     stopBlinking();
@@ -750,10 +745,9 @@ void GUI_SyncControl::on_connect_signal_generator_button_clicked()
             if (dialog->exec() == QDialog::Accepted) {
                 QString address;
                 m_generatorAddress = m_host->getPrefString(
-                    address, SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, QVariant());
+                    address, PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, QVariant());
             } else {
-                m_host->setPrefString(
-                    SyncKeys::PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, m_generatorAddress);
+                m_host->setPrefString(PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, m_generatorAddress);
             }
         });
 }

@@ -1,7 +1,7 @@
 #include "util/UTL_Messages.h"
 
 #include "plugin/APP_Host.h"
-#include "plugin/SyncKeys.h"
+#include "plugin/SharedKeys.h"
 #include "util/FunctionLogGuard.h"
 #include "util/UTL_Barrier.h"
 
@@ -108,7 +108,7 @@ void UTL_Messages::centerOnScreen(APP_Host* host, QWidget* widget)
     if (!widget || !host || host->getMainWindow())
         return;
     const QList<QScreen*> screens = QGuiApplication::screens();
-    const int number = host->getPrefInt(SyncKeys::PREF_KEY_MAIN_SCRNO, 0);
+    const int number = host->getPrefInt(PREF_KEY_MAIN_SCRNO, 0);
     QScreen* screen
         = (number >= 0 && number < screens.size()) ? screens.at(number) : widget->screen();
     if (!screen)
@@ -147,7 +147,7 @@ bool UTL_Messages::isDarkTheme(APP_Host* host)
     if (!host)
         return false;
     QString style;
-    host->getPrefString(style, SyncKeys::PREF_KEY_ENV_STYLE, QStringLiteral("light"));
+    host->getPrefString(style, PREF_KEY_ENV_STYLE, QStringLiteral("light"));
     return style.toLower() == QLatin1String("dark");
 }
 

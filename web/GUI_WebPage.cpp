@@ -2,6 +2,7 @@
 
 #include "plugin/APP_Host.h"
 #include "plugin/PLG_Interface.h"
+#include "plugin/SharedKeys.h"
 #include "util/UTL_Barrier.h"
 #include "web/GUI_QrcNetworkAccess.h"
 
@@ -28,17 +29,15 @@ QObject* GUI_WebPage::createPlugin(
         if (classid == QLatin1String("mdi"))
             return m_host->mdiWidget();
         static const QHash<QString, QString> pluginOfClass {
-            { QStringLiteral("histogram"), QStringLiteral("histogram") },
-            { QStringLiteral("lineprofile"), QStringLiteral("lineprofile") },
-            { QStringLiteral("lut"), QStringLiteral("lut") },
-            { QStringLiteral("sensorlut"), QStringLiteral("m_sensorlut") },
-            { QStringLiteral("livecontrol_hwimage_trigger_histogram"),
-                QStringLiteral("livecontrol") },
-            { QStringLiteral("livecontrol_auto_exposure_histogram"),
-                QStringLiteral("livecontrol") },
-            { QStringLiteral("imagetrigger_histogram"), QStringLiteral("imagetrigger") },
-            { QStringLiteral("analoggain"), QStringLiteral("m_analoggain") },
-            { QStringLiteral("focuscheck"), QStringLiteral("m_focuscheck") },
+            { QStringLiteral("histogram"), PAGE_OBJECT_HISTOGRAM },
+            { QStringLiteral("lineprofile"), PAGE_OBJECT_LINEPROFILE },
+            { QStringLiteral("lut"), PAGE_OBJECT_LUT },
+            { QStringLiteral("sensorlut"), PAGE_OBJECT_SENSORLUT },
+            { QStringLiteral("livecontrol_hwimage_trigger_histogram"), PAGE_OBJECT_LIVECONTROL },
+            { QStringLiteral("livecontrol_auto_exposure_histogram"), PAGE_OBJECT_LIVECONTROL },
+            { QStringLiteral("imagetrigger_histogram"), PAGE_OBJECT_IMAGETRIGGER },
+            { QStringLiteral("analoggain"), PAGE_OBJECT_ANALOGGAIN },
+            { QStringLiteral("focuscheck"), PAGE_OBJECT_FOCUSCHECK },
         };
         const auto found = pluginOfClass.constFind(classid);
         if (found == pluginOfClass.constEnd())

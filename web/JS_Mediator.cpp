@@ -2,6 +2,7 @@
 
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
+#include "plugin/SharedKeys.h"
 #include "util/FunctionLogGuard.h"
 #include "util/UTL_Barrier.h"
 #include "util/UTL_Messages.h"
@@ -74,7 +75,7 @@ void JS_Mediator::setStyle(const QString& style)
     OperationEventHandler guard(this, QStringLiteral("JS_Mediator::setStyle"),
         FunctionLogGuard::parameter(QStringLiteral("style"), style));
     UTL_Barrier::reported(m_host, [&] {
-        m_host->setPrefString(QStringLiteral("env/style"), style);
+        m_host->setPrefString(PREF_KEY_ENV_STYLE, style);
         if (QWidget* mainWindow = m_host->getMainWindow()) {
             const auto dialogs
                 = mainWindow->findChildren<QDialog*>(QStringLiteral("GUI_MobileDialog"));
@@ -88,7 +89,7 @@ QString JS_Mediator::getStyle()
 {
     return UTL_Barrier::reported(m_host, QString(), [this] {
         QString style;
-        return m_host->getPrefString(style, QStringLiteral("env/style"), QStringLiteral("light"));
+        return m_host->getPrefString(style, PREF_KEY_ENV_STYLE, QStringLiteral("light"));
     });
 }
 
