@@ -213,6 +213,11 @@ public:
     }
 
     // APP_DocumentList
+    DOC_Interface* currentDocument(QInputEvent*) override
+    {
+        hostCall("currentDocument");
+        return nullptr;
+    }
     void selectDocument(int) override { hostCall("selectDocument"); }
     void unselectDocument(int) override { hostCall("unselectDocument"); }
     void removeAllDocuments(int, bool) override { hostCall("removeAllDocuments"); }

@@ -7,6 +7,7 @@
 
 class DOC_Interface;
 class JS_Mediator;
+class QInputEvent;
 class QMutex;
 
 // Facet of the host: the open documents, their selection, the tools set on them.
@@ -23,6 +24,8 @@ public:
     virtual void selectDocument(int key) = 0;
     virtual void unselectDocument(int key) = 0;
     virtual DOC_Interface* currentDocument() = 0;
+    // The document a key or mouse event belongs to, null when none.
+    virtual DOC_Interface* currentDocument(QInputEvent* event) = 0;
     virtual int currentKey() = 0;
     virtual void removeDocument(int key) = 0;
     virtual void removeAllDocuments(int reserved, bool unselectOnly) = 0;
@@ -44,7 +47,8 @@ public:
     virtual int selectedDocumentCount() = 0;
     virtual QList<int>& documentKeysForList(QList<int>& out, int filter = 1) = 0;
     virtual QList<int>& temporaryDocumentKeys(QList<int>& out) = 0;
-    virtual QList<int>& openedDocumentKeys(QList<int>& out, bool first = true, bool second = false) = 0;
+    virtual QList<int>& openedDocumentKeys(QList<int>& out, bool first = true, bool second = false)
+        = 0;
     virtual QList<int>& liveDocumentKeys(QList<int>& out, int filter = 0) = 0;
     virtual QList<int> documentKeys(int filter = 0) = 0;
     virtual QList<int>& orderedKeys(QList<int>& out) = 0;

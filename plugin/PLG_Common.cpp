@@ -280,33 +280,6 @@ bool PLG_Common::isAvailable()
         [&]() -> bool { return m_host && isAvailableInMode(m_host->saveTargetKind()); });
 }
 
-// The rectangle tool is not part of this plug-in; the frame keeps only the mouse state.
-void PLG_Common::mousePressed(const QPoint& pos, int docKey)
-{
-    m_mouseDown = true;
-    m_mouseDownPos = pos;
-    m_lastMousePos = pos;
-    m_lastDocumentKey = docKey;
-}
-
-void PLG_Common::mouseMoved(const QPoint& pos, int docKey)
-{
-    m_lastMousePos = pos;
-    m_lastDocumentKey = docKey;
-}
-
-void PLG_Common::mouseLeft(int docKey)
-{
-    mouseReleased(m_lastMousePos, docKey);
-}
-
-void PLG_Common::mouseReleased(const QPoint& pos, int)
-{
-    m_mouseDown = false;
-    m_lastMousePos = pos;
-    m_dragZone = 9;
-}
-
 void PLG_Common::resetMouseCursor()
 {
     m_lastDocumentKey = -1;
@@ -414,24 +387,6 @@ void PLG_Common::modeChanged(int mode)
             closeDialog();
     });
 }
-
-void PLG_Common::keyPressed(QKeyEvent*)
-{
-    m_keyHeld = true;
-}
-
-QVariantMap PLG_Common::rectangleParameters(DOC_Interface*, const QSize&, const QRect&, bool, bool)
-{
-    return QVariantMap();
-}
-
-bool PLG_Common::isMouseEventFor(const QPoint&, int docKey)
-{
-    return UTL_Barrier::logged("PLG_Common::isMouseEventFor", false,
-        [&]() -> bool { return m_host && m_host->document(docKey, true) != nullptr; });
-}
-
-void PLG_Common::updateCursor(DOC_Interface*, int) { }
 
 bool PLG_Common::isDialogVisible()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plugin/PLG_Interface.h"
+#include "plugin/PLG_RectangleConstraints.h"
 
 #include <QMutex>
 #include <QPointer>
@@ -40,8 +41,8 @@ public:
     void resetToolPaused(bool pause) override;
     void resetTool() override;
     void deselectTool() override;
-    void reserved01() override {}
-    void reserved02() override {}
+    void reserved01() override { }
+    void reserved02() override { }
     JS_Mediator* mediator() override { return m_mediator.get(); }
     QString pageName() override { return m_name; }
     int buttonKind() override { return m_buttonKind; }
@@ -59,16 +60,16 @@ public:
     bool stateForMode() override;
     bool isPagedTool() override { return m_isPagedTool; }
     bool flagForMode() override;
-    void prepareEmbedding() override {}
+    void prepareEmbedding() override { }
     void clearPageWidget() override { m_pageWidget = nullptr; }
     QWidget* pageWidget() override { return m_pageWidget; }
     void mousePressed(const QPoint& pos, int docKey) override;
-    void reserved04() override {}
+    void reserved04() override { }
     void mouseMoved(const QPoint& pos, int docKey) override;
     void mouseLeft(int docKey) override;
     void mouseReleased(const QPoint& pos, int docKey) override;
-    void reserved05() override {}
-    void reserved06() override {}
+    void reserved05() override { }
+    void reserved06() override { }
     void resetMouseCursor() override;
     bool isMouseDown() override { return m_mouseDown; }
     QPoint mouseDownPos() override { return m_mouseDownPos; }
@@ -91,15 +92,15 @@ public:
     void closeDialog() override;
     void modeChanged(int mode) override;
     int attribute4() override { return m_attribute4; }
-    void reserved08() override {}
+    void reserved08() override { }
     bool flag0() override { return m_flag0; }
-    void showTab(int) override {}
-    void registerVariable(const QString&) override {}
+    void showTab(int) override { }
+    void registerVariable(const QString&) override { }
     void keyPressed(QKeyEvent* event) override;
     void keyReleased() override { m_keyHeld = false; }
     QString acceptPrompt() override { return QStringLiteral("Do you want to accept?"); }
     bool flag2() override { return m_flag2; }
-    void reserved09() override {}
+    void reserved09() override { }
     bool reserved10() override { return false; }
     bool reserved11() override { return false; }
     bool reserved12() override { return false; }
@@ -108,22 +109,22 @@ public:
     int deselectOthers() override { return m_deselectOthers; }
     bool reserved15() override { return false; }
     bool flag3() override { return m_flag3; }
-    void reserved16() override {}
+    void reserved16() override { }
     int reserved17() override { return 0; }
     bool reserved18() override { return true; }
-    void reserved19() override {}
-    void reserved20() override {}
+    void reserved19() override { }
+    void reserved20() override { }
     bool flag4() override { return m_flag4; }
     void setFlag4(bool flag) override { m_flag4 = flag; }
-    void reserved21() override {}
-    void reserved22() override {}
+    void reserved21() override { }
+    void reserved22() override { }
     int reserved23() override { return 0; }
     bool hasRectangle(DOC_Interface*) override { return false; }
     bool hasRectangleFor(DOC_Interface* doc) override { return hasRectangle(doc); }
     QRect rectangle(DOC_Interface*) override { return QRect(0, 0, -1, -1); }
-    void setRectangle(DOC_Interface*, const QRect&, bool) override {}
+    void setRectangle(DOC_Interface*, const QRect&, bool) override { }
     QVariantMap rectangleParameters(DOC_Interface* doc, const QSize& imageSize, const QRect& rect,
-                                    bool fixAspect, bool originalAspect) override;
+        bool fixAspect, bool originalAspect) override;
     void setDefaultRectangle(const QRect& rect) override { m_defaultRect = rect; }
     QRect defaultRectangle() override { return m_defaultRect; }
     void resetDefaultRectangle() override { m_defaultRect = QRect(0, 0, -1, -1); }
@@ -149,7 +150,7 @@ signals:
     void signalDisconnect();
 
 public slots:
-    void slotModelessPatternDialogShown() override {}
+    void slotModelessPatternDialogShown() override { }
     void slotModelessPatternDialogClosed() override;
 
 protected:
@@ -157,6 +158,16 @@ protected:
     bool isMultiLockTool() const;
     // The page change of leaveTool: previous or default page of the host's panel.
     void leavePage();
+
+    // The rectangle tool works on this document: it has a rectangle, and the host's cross
+    // cursor, which takes the mouse for itself, is off.
+    bool rectangleToolApplies(DOC_Interface* doc);
+    // The rectangle's grid, limits, aspect and centre locks, before the view scales them.
+    PLG_RectangleConstraints rectangleSettings() const;
+    // Takes a rectangle of positive size and tells the host, as applyOnChange asks.
+    void changeRectangle(DOC_Interface* doc, const QRect& rect);
+    // The views that show the rectangle repaint: all locked documents in multi-lock.
+    void sendChangeNotice(DOC_Interface* doc);
 
     APP_Host* m_host = nullptr;
     // Owned here; the pointer also sees a parent window deleting it first.
@@ -168,11 +179,11 @@ protected:
     QString m_name;
     bool m_active = false;
     int m_modeMask = 7;
-    bool m_stateForMode[2] = {false, false};
+    bool m_stateForMode[2] = { false, false };
     int m_attribute3 = 0;
     int m_attribute2 = 0;
     bool m_isPagedTool = false;
-    bool m_flagForMode[2] = {false, false};
+    bool m_flagForMode[2] = { false, false };
     std::unique_ptr<JS_Mediator> m_mediator;
     QWidget* m_pageWidget = nullptr;
     int m_pluginType = 0;

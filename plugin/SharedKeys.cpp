@@ -3,6 +3,7 @@
 // Order matters here: INFO_ITEMS and STATUS_NAMES copy the named constants defined above them.
 
 const QString PLUGIN_NAME_SYNCCONTROL = QStringLiteral("synccontrol");
+const QString PLUGIN_NAME_ROI = QStringLiteral("roi");
 const QString TOOL_CROSSCURSOR = QStringLiteral("t_crosscursor");
 const QString TOOL_MULTILOCK = QStringLiteral("t_multilock");
 const QString TOOL_ZOOMFIT = QStringLiteral("t_zoomfit");

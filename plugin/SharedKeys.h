@@ -9,6 +9,7 @@
 
 // Plug-ins and tools of the host.
 extern const QString PLUGIN_NAME_SYNCCONTROL;
+extern const QString PLUGIN_NAME_ROI;
 extern const QString TOOL_CROSSCURSOR;
 extern const QString TOOL_MULTILOCK;
 extern const QString TOOL_ZOOMFIT;
