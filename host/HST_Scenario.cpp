@@ -240,13 +240,14 @@ HST_DocumentSpec readFile(const QJsonValue& value, const QString& name, int inde
     return document;
 }
 
-void checkAddress(const QString& key, const QString& ip)
+// A dummy camera's address may have groups above 255, such as "999.999.999.1".
+void checkAddress(const QString& key, const QString& ip, bool dummy = false)
 {
     static const QRegularExpression dotted(
         QStringLiteral("^(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})$"));
     const QRegularExpressionMatch match = dotted.match(ip);
     bool ok = match.hasMatch();
-    for (int i = 1; ok && i <= 4; ++i)
+    for (int i = 1; ok && !dummy && i <= 4; ++i)
         ok = match.captured(i).toInt() <= 255;
     if (!ok)
         refuse(key, QStringLiteral("\"%1\" is not a dotted IPv4 address").arg(ip));
@@ -288,7 +289,8 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
         object, name, QStringLiteral("name"), QStringLiteral("Camera %1").arg(index + 1));
     camera.ip = readString(
         object, name, QStringLiteral("ip"), QStringLiteral("192.168.0.%1").arg(10 + index));
-    checkAddress(join(name, QStringLiteral("ip")), camera.ip);
+    camera.dummy = readBool(object, name, QStringLiteral("dummy"), false);
+    checkAddress(join(name, QStringLiteral("ip")), camera.ip, camera.dummy);
     camera.type = readInt(object, name, QStringLiteral("type"), camera.type);
     camera.model = readString(object, name, QStringLiteral("model"),
         QStringLiteral("HX-%1 type A model 1").arg(camera.type));
@@ -300,7 +302,6 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
     camera.exposureTimingFlag = readInt(object, name, QStringLiteral("exposureTimingFlag"), 0);
     camera.exposureTimingClass = readInt(object, name, QStringLiteral("exposureTimingClass"), 0);
     camera.documents = readInt(object, name, QStringLiteral("documents"), 1, 0, 64);
-    camera.dummy = readBool(object, name, QStringLiteral("dummy"), false);
     camera.needsErase = readBool(object, name, QStringLiteral("needsErase"), false);
     camera.recorded = readBool(object, name, QStringLiteral("recorded"), false);
     camera.syncRequired = readBool(object, name, QStringLiteral("syncRequired"), false);
