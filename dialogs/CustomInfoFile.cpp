@@ -8,26 +8,28 @@
 
 namespace {
 
-// Well-formed and no deeper than a custom or job file may be. A document that fails to parse
-// keeps what was read before the error, so the check comes first.
-bool isReadable(const QByteArray& bytes)
+// The text of the element the reader stands on, to its end: every piece of character data of
+// its descendants, without the blank pieces between elements.
+QString elementText(QXmlStreamReader& reader)
 {
-    QXmlStreamReader reader(bytes);
-    int depth = 0;
-    while (!reader.atEnd()) {
+    QString text;
+    for (int depth = 1; depth > 0 && !reader.atEnd();) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
-            if (++depth > CustomInfoFile::maximumDepth)
-                return false;
+            ++depth;
             break;
         case QXmlStreamReader::EndElement:
             --depth;
+            break;
+        case QXmlStreamReader::Characters:
+            if (reader.isCDATA() || !reader.isWhitespace())
+                text += reader.text();
             break;
         default:
             break;
         }
     }
-    return !reader.hasError();
+    return text;
 }
 
 void appendElement(
@@ -87,35 +89,47 @@ QByteArray CustomInfoFile::toXml(const QString& versionText, const QVariantList&
 QVariantList CustomInfoFile::read(const QByteArray& bytes, const TagTable& tags)
 {
     QVariantList list;
-    if (bytes.size() > maximumFileSize || !isReadable(bytes))
+    if (bytes.size() > maximumFileSize)
         return list;
-    QDomDocument document;
-    document.setContent(bytes);
-    loadCustomInfo(document.documentElement(), list, tags);
+    QXmlStreamReader reader(bytes);
+    // Names are taken as written, prefixes included.
+    reader.setNamespaceProcessing(false);
+    if (reader.readNextStartElement())
+        loadCustomInfo(reader, list, tags);
+    while (!reader.atEnd())
+        reader.readNext();
+    // A file that doesn't parse gives no items, not those before the fault.
+    if (reader.hasError())
+        list.clear();
     return list;
 }
 
 void CustomInfoFile::loadCustomInfo(
-    const QDomElement& root, QVariantList& list, const TagTable& tags)
+    QXmlStreamReader& root, QVariantList& list, const TagTable& tags)
 {
-    if (root.tagName().toLower() == QLatin1String("job"))
+    if (root.qualifiedName().toString().toLower() == QLatin1String("job"))
         loadCustomInfoJob(root, list, tags);
     else
         loadCustomInfoCustom(root, list, tags);
 }
 
 void CustomInfoFile::loadCustomInfoCustom(
-    const QDomElement& root, QVariantList& list, const TagTable& tags)
+    QXmlStreamReader& root, QVariantList& list, const TagTable& tags)
 {
-    for (QDomElement items = root.firstChildElement(QStringLiteral("customItems")); !items.isNull();
-         items = items.nextSiblingElement(QStringLiteral("customItems"))) {
-        for (QDomElement item = items.firstChildElement(QStringLiteral("customItem"));
-             !item.isNull(); item = item.nextSiblingElement(QStringLiteral("customItem"))) {
+    while (root.readNextStartElement()) {
+        if (root.qualifiedName() != QLatin1String("customItems")) {
+            root.skipCurrentElement();
+            continue;
+        }
+        while (root.readNextStartElement()) {
+            if (root.qualifiedName() != QLatin1String("customItem")) {
+                root.skipCurrentElement();
+                continue;
+            }
             QVariantMap map;
-            for (QDomElement field = item.firstChildElement(); !field.isNull();
-                 field = field.nextSiblingElement()) {
-                const QString name = field.tagName().toLower();
-                const QString text = field.text();
+            while (root.readNextStartElement()) {
+                const QString name = root.qualifiedName().toString().toLower();
+                const QString text = elementText(root);
                 if (name == QLatin1String("name"))
                     map.insert(QStringLiteral("name"), tags.value(text, text));
                 else if (name == QLatin1String("value"))
@@ -132,20 +146,20 @@ void CustomInfoFile::loadCustomInfoCustom(
 }
 
 void CustomInfoFile::loadCustomInfoJob(
-    const QDomElement& root, QVariantList& list, const TagTable& tags)
+    QXmlStreamReader& root, QVariantList& list, const TagTable& tags)
 {
-    for (QDomElement element = root.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
-        const QString text = element.text();
+    while (root.readNextStartElement()) {
+        const QString tag = root.qualifiedName().toString();
+        const QXmlStreamAttributes attributes = root.attributes();
+        const QString text = elementText(root);
         if (text.isEmpty())
             continue;
         QString unit;
         QString display = QStringLiteral("true");
-        if (element.hasAttribute(QStringLiteral("unit")))
-            unit = element.attribute(QStringLiteral("unit"));
-        if (element.hasAttribute(QStringLiteral("display")))
-            display = element.attribute(QStringLiteral("display"));
-        const QString tag = element.nodeName();
+        if (attributes.hasAttribute(QStringLiteral("unit")))
+            unit = attributes.value(QStringLiteral("unit")).toString();
+        if (attributes.hasAttribute(QStringLiteral("display")))
+            display = attributes.value(QStringLiteral("display")).toString();
         list.append(QVariantMap { { QStringLiteral("name"), tags.value(tag, tag) },
             { QStringLiteral("value"), text }, { QStringLiteral("unit"), unit },
             { QStringLiteral("selected"), display == QLatin1String("true") } });

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QVariantList>
 
-class QDomElement;
+class QXmlStreamReader;
 
 // The custom info file (root "custom") as written and read, and the older job file read beside
 // it. Items come back as the page's maps: name, value, unit, and selected for the display flag.
@@ -22,17 +22,16 @@ public:
     // The whole file, UTF-8, from the page's items (name, value, unit, selected).
     static QByteArray toXml(const QString& versionText, const QVariantList& customs);
 
-    // The items of a file's bytes; none for bytes that are no well-formed XML, nest deeper than
-    // maximumDepth or are larger than maximumFileSize.
+    // The items of a file's bytes; none for bytes that are no well-formed XML or are larger
+    // than maximumFileSize. Read as a stream, so that no depth of nesting costs stack; an
+    // element's text is that of its descendants, blank pieces left out, as a document tree
+    // holds it.
     static QVariantList read(const QByteArray& bytes, const TagTable& tags);
-    static void loadCustomInfo(const QDomElement& root, QVariantList& list, const TagTable& tags);
+    // The reader stands on the root's start; each leaves it behind the root's end.
+    static void loadCustomInfo(QXmlStreamReader& root, QVariantList& list, const TagTable& tags);
     static void loadCustomInfoCustom(
-        const QDomElement& root, QVariantList& list, const TagTable& tags);
-    static void loadCustomInfoJob(
-        const QDomElement& root, QVariantList& list, const TagTable& tags);
+        QXmlStreamReader& root, QVariantList& list, const TagTable& tags);
+    static void loadCustomInfoJob(QXmlStreamReader& root, QVariantList& list, const TagTable& tags);
 
     static constexpr qint64 maximumFileSize = 16 * 1024 * 1024;
-    // A custom file nests four levels deep. A document tree is freed recursively, so a much
-    // deeper file could take the stack down.
-    static constexpr int maximumDepth = 64;
 };

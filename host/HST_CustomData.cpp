@@ -6,10 +6,23 @@
 
 namespace {
 
+QString flag(bool on)
+{
+    return on ? QStringLiteral("on") : QStringLiteral("off");
+}
+
 QVariantMap item(
     const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
 {
-    const auto flag = [](bool on) { return on ? QStringLiteral("on") : QStringLiteral("off"); };
+    return { { QStringLiteral("name"), name }, { QStringLiteral("value"), value },
+        { QStringLiteral("unit"), unit }, { QStringLiteral("display"), flag(display) },
+        { QStringLiteral("usefilename"), flag(usefilename) } };
+}
+
+// The record's fields, made directly: a host loading a file adds thousands of items.
+QJsonObject fields(
+    const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
+{
     return { { QStringLiteral("name"), name }, { QStringLiteral("value"), value },
         { QStringLiteral("unit"), unit }, { QStringLiteral("display"), flag(display) },
         { QStringLiteral("usefilename"), flag(usefilename) } };
@@ -51,21 +64,19 @@ void HST_CustomData::clear()
 void HST_CustomData::add(
     const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
 {
-    const QVariantMap added = item(name, value, unit, display, usefilename);
-    m_items.append(added);
-    record("add", QJsonObject::fromVariantMap(added));
+    m_items.append(item(name, value, unit, display, usefilename));
+    record("add", fields(name, value, unit, display, usefilename));
 }
 
 void HST_CustomData::set(
     const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
 {
-    const QVariantMap replaced = item(name, value, unit, display, usefilename);
-    QJsonObject fields = QJsonObject::fromVariantMap(replaced);
     const int index = indexOf(name);
-    fields.insert(QStringLiteral("found"), index >= 0);
     if (index >= 0)
-        m_items[index] = replaced;
-    record("set", fields);
+        m_items[index] = item(name, value, unit, display, usefilename);
+    QJsonObject changed = fields(name, value, unit, display, usefilename);
+    changed.insert(QStringLiteral("found"), index >= 0);
+    record("set", changed);
 }
 
 void HST_CustomData::remove(const QString& name)

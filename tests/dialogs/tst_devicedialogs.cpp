@@ -260,6 +260,8 @@ void tst_DeviceDialogs::nameList_data()
     QTest::newRow("forbidden characters and dots dropped")
         << QByteArray("Lab, /:* ,..,.,a/b,  ,c\n")
         << R"([{"category":"Lab","label":"ab"},{"category":"Lab","label":"c"}])" << 0;
+    QTest::newRow("marks in a category escaped as JSON writes them")
+        << QByteArray("\"q\\\tc\x01,a\n") << R"([{"category":"\"q\\\tc\u0001","label":"a"}])" << 0;
     QTest::newRow("a line of 100,000 characters")
         << "Lab," + QByteArray(100000, 'x')
         << R"([{"category":"Lab","label":")" + QString(1024, 'x') + R"("}])" << 0;
