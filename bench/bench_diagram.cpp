@@ -109,10 +109,10 @@ int main(int argc, char* argv[])
         std::sort(samples.begin(), samples.end());
         std::printf("guiUpdate + diagram paint, %2d cameras: median %6.2f ms, max %6.2f ms over "
                     "%zu runs\n",
-            cameras, m, samples.empty() ? 0.0 : samples.back(), samples.size());
+                    cameras, m, samples.empty() ? 0.0 : samples.back(), samples.size());
     }
     const double ratio = medians[2] > 0 ? medians[64] / medians[2] : 0.0;
     std::printf("growth 64/2 cameras: %.1fx; 16 cameras: %.2f ms of a %.2f ms frame (ratio %.2f)\n",
-        ratio, medians[16], FrameMs, medians[16] / FrameMs);
+                ratio, medians[16], FrameMs, medians[16] / FrameMs);
     return medians[16] > 0 && medians[16] < FrameMs ? 0 : 1;
 }
