@@ -33,5 +33,5 @@ public:
         QXmlStreamReader& root, QVariantList& list, const TagTable& tags);
     static void loadCustomInfoJob(QXmlStreamReader& root, QVariantList& list, const TagTable& tags);
 
-    static constexpr qint64 maximumFileSize = 16 * 1024 * 1024;
+    static constexpr qint64 maximumFileSize = qint64(16) * 1024 * 1024;
 };

@@ -31,7 +31,7 @@ QString JS_Mediator_AddDeviceDialog::firstFreeDummyAddress()
             taken.append(camera->ipAddress(true));
     }
     for (int n = 1; n <= 255; ++n) {
-        const QString address = QStringLiteral("999.999.999.%1").arg(n);
+        QString address = QStringLiteral("999.999.999.%1").arg(n);
         if (!taken.contains(address))
             return address;
     }

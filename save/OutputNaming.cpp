@@ -193,7 +193,7 @@ QString withLevelNumber(
             = numberText(device + 1, head, session, cameraCount, headCount, sessionCount);
         if (text.isEmpty())
             return name;
-        const QString candidate = appendNamePart(name, text);
+        QString candidate = appendNamePart(name, text);
         if (sessionCount < 1)
             return candidate;
         if (!baseKnown) {
