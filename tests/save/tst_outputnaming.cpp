@@ -41,6 +41,8 @@ private slots:
     void fileName();
     void savePaths_data();
     void savePaths();
+    void registryPasses_data();
+    void registryPasses();
 
 private:
     // The scenario: one camera at 10.0.0.5 named "Cam", with setup's keys ("camera": keys of
@@ -450,6 +452,46 @@ void tst_OutputNaming::savePaths()
     QCOMPARE(paths.values(), expected);
     for (auto it = paths.begin(); it != paths.end(); ++it)
         QVERIFY(it.value().startsWith(dirs.value(it.key())));
+}
+
+void tst_OutputNaming::registryPasses_data()
+{
+    QTest::addColumn<QString>("pass");
+    QTest::addColumn<QString>("expected"); // the path the second batch gets
+    QTest::newRow("same batch: group fixed, name taken") << ""
+                                                         << "$DIR/G_S0001/shot_S0002";
+    QTest::newRow("committed: all forgotten") << "commitPendingNames"
+                                              << "$DIR/G_S0001/shot_S0001";
+    QTest::newRow("new group pass: planned group directory taken") << "beginGroupPass"
+                                                                   << "$DIR/G_S0002/shot_S0001";
+    QTest::newRow("new name pass: group stays fixed, names forgotten") << "beginNamePass"
+                                                                       << "$DIR/G_S0001/shot_S0001";
+}
+
+void tst_OutputNaming::registryPasses()
+{
+    QFETCH(QString, pass);
+    QVERIFY(start(R"("prefs": {"export/dir": "$DIR", "export/filename": "shot",
+        "export/filenameaddnumber": true, "export/filenameaddnumbersessionnodigits": 4,
+        "export/groupdir": true, "export/groupdirname": "G", "export/groupdiraddnumber": true,
+        "export/groupdiraddnumbersessionnodigits": 4})",
+        {}));
+    QMap<int, QString> groups;
+    QMap<int, QString> dirs;
+    QMap<int, QString> paths;
+    composeSavePaths(
+        m_host.get(), 1, m_host->document(1), false, groups, dirs, paths, batchTime, 0);
+    QCOMPARE(paths.value(1), rooted(QStringLiteral("$DIR/G_S0001/shot_S0001")));
+    if (pass == QLatin1String("commitPendingNames"))
+        m_host->commitPendingNames();
+    else if (pass == QLatin1String("beginGroupPass"))
+        m_host->beginGroupPass();
+    else if (pass == QLatin1String("beginNamePass"))
+        m_host->beginNamePass();
+    composeSavePaths(
+        m_host.get(), 1, m_host->document(1), false, groups, dirs, paths, batchTime, 0);
+    QFETCH(QString, expected);
+    QCOMPARE(paths.value(1), rooted(expected));
 }
 
 QTEST_GUILESS_MAIN(tst_OutputNaming)
