@@ -342,3 +342,15 @@ void JS_Mediator_CustomInfoDialog::setSelectedDeviceItems(const QList<int>& ids)
     }
     m_selectedRecords = ids;
 }
+
+int JS_Mediator_CustomInfoDialog::getCurrentDeviceRecord()
+{
+    SYNC_TRACE(QStringLiteral("JS_Mediator_CustomInfoDialog::getCurrentDeviceRecord"), QString());
+    return m_currentRecord;
+}
+
+int JS_Mediator_CustomInfoDialog::getCallbackType()
+{
+    SYNC_TRACE(QStringLiteral("JS_Mediator_CustomInfoDialog::getCallbackType"), QString());
+    return m_callbackType;
+}

@@ -44,8 +44,8 @@ public slots:
     void addCustomData(const QVariantList& targets, const QVariant& custom);
     void enableCustomData(const QVariantList& targets, const QVariantList& customs);
     void setSelectedDeviceItems(const QList<int>& ids);
-    int getCurrentDeviceRecord() { return m_currentRecord; }
-    int getCallbackType() { return m_callbackType; }
+    int getCurrentDeviceRecord();
+    int getCallbackType();
 
 private:
     QList<int> documentKeyList();
