@@ -28,6 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     check(scenario.source == source);
     check(scenario.mode >= 0 && scenario.mode <= 2);
     check(scenario.files >= 0 && scenario.files <= 64);
+    check(scenario.fileDocuments.size() == scenario.files);
     QSet<QString> cameraIps;
     for (const HST_CameraSpec &camera : scenario.cameras) {
         check(camera.documents >= 0 && camera.documents <= 64);

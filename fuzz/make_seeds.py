@@ -152,9 +152,43 @@ def scenario():
         write("fuzz_scenario", name, data)
 
 
+def custom_info():
+    item = ("<customItem><name>{}</name><value>{}</value><unit>{}</unit><display>{}</display>"
+            "<usefilename>true</usefilename></customItem>")
+    seeds = {
+        "custom.xml": ('<?xml version="1.0" encoding="utf-8" standalone="no"?>\n<custom>\n'
+                       "  <version>tarvix4host 1.0</version>\n  <customItems>"
+                       + item.format("Lens", "50", "mm", "true") + item.format("Cm_Comment", "a &amp; b", "", "false")
+                       + "</customItems>\n</custom>\n").encode(),
+        "custom-case.xml": b"<other><customItems><customItem><NAME>x</NAME><Display>TRUE</Display>"
+                           b"<usefilename>false</usefilename></customItem><customItem><value>no name</value>"
+                           b"</customItem></customItems></other>",
+        "job.xml": b'<JOB><Sf_TestCode unit="s">T-1</Sf_TestCode><Cm_TestDate display="false">2024/3/5</Cm_TestDate>'
+                   b'<Empty unit="x"/><Own>\xe6\x9d\xb1</Own></JOB>',
+        "nested.xml": b"<custom>" + b"<a>" * 70 + b"</a>" * 70 + b"</custom>",
+        "broken.xml": b"<custom><customItems><customItem><name>a</name></customItem><",
+    }
+    for name, data in seeds.items():
+        write("fuzz_custom_info", name, data)
+
+
+def camera_names():
+    seeds = {
+        "ascii.csv": b"Lab,Alpha,Beta\n,Gamma,Delta\nLab,Alpha,Zeta\nOnlyCategory\n\n",
+        "shift-jis.csv": "\u30ab\u30e1\u30e9,\u6771\u4eac,\u5927\u962a\r\n,\u672d\u5e4c\r\n".encode("shift_jis"),
+        "utf-8.csv": "\ufeff\u30ab\u30e1\u30e9,\u6771\u4eac\n,a/b, .. ,x:y\n".encode("utf-8"),
+        "invalid.csv": b"\x80\xff,ok\n\xe6\x9d,\x83\n",
+        "forbidden.csv": b"Lab,/:*?,..,.,<>|%\"\\,  ,\tTab\n",
+    }
+    for name, data in seeds.items():
+        write("fuzz_camera_names", name, data)
+
+
 if __name__ == "__main__":
     visa_reply()
     visa_session()
     sim_request()
     text_helpers()
     scenario()
+    custom_info()
+    camera_names()

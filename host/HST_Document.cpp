@@ -2,23 +2,83 @@
 
 #include "host/HST_CameraState.h"
 #include "host/HST_Faults.h"
+#include "host/HST_NumberOption.h"
 #include "host/HST_Recorder.h"
 
 #include <QDate>
 #include <QVariantMap>
 
-HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex, HST_Faults* faults)
+HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
+    HST_DocumentContext* context, const HST_DocumentSpec& spec)
     : m_key(key)
     , m_camera(camera)
     , m_documentIndex(documentIndex)
-    , m_faults(faults)
+    , m_context(context)
+    , m_spec(spec)
+    , m_comment(spec.comment)
+    , m_customData(spec.customData, context ? context->recorder : nullptr, key)
 {
 }
 
 void HST_Document::hostCall(const char* operation) const
 {
-    if (m_faults)
-        m_faults->enter(operation);
+    if (m_context && m_context->faults)
+        m_context->faults->enter(operation);
+}
+
+void HST_Document::record(const QString& call, QJsonObject fields) const
+{
+    if (!m_context || !m_context->recorder)
+        return;
+    fields.insert(QStringLiteral("key"), m_key);
+    m_context->recorder->record(call, fields);
+}
+
+QString HST_Document::fileName() const
+{
+    return m_spec.baseName.isEmpty() ? QStringLiteral("file-%1").arg(m_documentIndex + 1)
+                                     : m_spec.baseName;
+}
+
+int HST_Document::headCount()
+{
+    hostCall("document.headCount");
+    return m_camera ? m_camera->spec.headCount : 1;
+}
+
+bool HST_Document::isConnected()
+{
+    hostCall("document.isConnected");
+    return m_camera && m_camera->connected;
+}
+
+const HST_PartitionSpec* HST_Document::partitionSpec(int partition) const
+{
+    for (const HST_PartitionSpec& spec : m_spec.partitions) {
+        if (spec.number == partition)
+            return &spec;
+    }
+    return nullptr;
+}
+
+unsigned HST_Document::partitionFrames(int partition, int)
+{
+    hostCall("document.partitionFrames");
+    const HST_PartitionSpec* spec = partitionSpec(partition);
+    return spec ? spec->frames : 0;
+}
+
+void HST_Document::setComment(const QString& text)
+{
+    hostCall("document.setComment");
+    m_comment = text;
+    record(QStringLiteral("setComment"), { { QStringLiteral("text"), text } });
+}
+
+int HST_Document::headNumber()
+{
+    hostCall("document.headNumber");
+    return m_camera ? m_camera->spec.headNumber : 0;
 }
 
 DOC_Camera* HST_Document::asCamera()
@@ -37,14 +97,14 @@ void HST_Document::heads(QList<DOC_Interface*>& out, bool)
 QString& HST_Document::filePath(QString& out)
 {
     hostCall("document.filePath");
-    out = m_camera ? QString() : QStringLiteral("/simulated/file-%1.dat").arg(m_documentIndex + 1);
+    out = m_spec.filePath;
     return out;
 }
 
 QString& HST_Document::deviceName(QString& out)
 {
     hostCall("document.deviceName");
-    out = m_camera ? m_camera->spec.name : QString();
+    out = m_camera ? m_camera->spec.name : fileName();
     return out;
 }
 
@@ -58,7 +118,8 @@ QString& HST_Document::baseName(QString& out)
 QString& HST_Document::partitionName(QString& out, int partition)
 {
     hostCall("document.partitionName");
-    out = QStringLiteral("Partition %1").arg(partition);
+    const HST_PartitionSpec* spec = partitionSpec(partition);
+    out = spec ? spec->name : QString();
     return out;
 }
 
@@ -133,63 +194,60 @@ int HST_Document::triggerMode()
 bool HST_Document::isFunctionSupported(int functionId, bool)
 {
     hostCall("document.isFunctionSupported");
-    // 116: recorded data must be erased before a sync; the only function the scenario models.
-    return m_camera && functionId == 116 && m_camera->spec.needsErase;
+    // 116: recorded data must be erased before a sync.
+    if (!m_camera)
+        return false;
+    return functionId == 116 ? m_camera->spec.needsErase
+                             : m_camera->spec.functions.contains(functionId);
+}
+
+QString HST_Document::firmwarePart(int index) const
+{
+    return m_camera ? m_camera->spec.firmware.value(index) : QString();
 }
 
 void HST_Document::firmwareVersion(QString& out)
 {
     hostCall("document.firmwareVersion");
-    out = m_camera ? QStringLiteral("1.00") : QString();
+    out = firmwarePart(0);
 }
 
-int HST_Document::customIndex(const QString& name) const
+void HST_Document::firmwareVersion2(QString& out)
 {
-    for (int i = 0; i < m_customData.size(); ++i) {
-        if (m_customData.at(i).toMap().value(QStringLiteral("name")).toString() == name)
-            return i;
-    }
-    return -1;
+    hostCall("document.firmwareVersion2");
+    out = firmwarePart(1);
+}
+
+void HST_Document::firmwareVersion3(QString& out)
+{
+    hostCall("document.firmwareVersion3");
+    out = firmwarePart(2);
 }
 
 void HST_Document::addCustomData(
     const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
 {
     hostCall("document.addCustomData");
-    m_customData.append(QVariantMap { { QStringLiteral("name"), name },
-        { QStringLiteral("value"), value }, { QStringLiteral("unit"), unit },
-        { QStringLiteral("display"), display }, { QStringLiteral("usefilename"), usefilename } });
+    m_customData.add(name, value, unit, display, usefilename);
 }
 
 void HST_Document::setCustomData(
     const QString& name, const QString& value, const QString& unit, bool display, bool usefilename)
 {
     hostCall("document.setCustomData");
-    const int index = customIndex(name);
-    if (index < 0)
-        return;
-    m_customData[index] = QVariantMap { { QStringLiteral("name"), name },
-        { QStringLiteral("value"), value }, { QStringLiteral("unit"), unit },
-        { QStringLiteral("display"), display }, { QStringLiteral("usefilename"), usefilename } };
+    m_customData.set(name, value, unit, display, usefilename);
 }
 
 void HST_Document::removeCustomData(const QString& name)
 {
     hostCall("document.removeCustomData");
-    const int index = customIndex(name);
-    if (index >= 0)
-        m_customData.removeAt(index);
+    m_customData.remove(name);
 }
 
 void HST_Document::renameCustomData(const QString& oldName, const QString& newName)
 {
     hostCall("document.renameCustomData");
-    const int index = customIndex(oldName);
-    if (index < 0)
-        return;
-    QVariantMap item = m_customData.at(index).toMap();
-    item.insert(QStringLiteral("name"), newName);
-    m_customData[index] = item;
+    m_customData.rename(oldName, newName);
 }
 
 int HST_Document::exposureTimingFlag()
@@ -227,12 +285,27 @@ void HST_Document::eraseRecordedData(int)
             { { QStringLiteral("camera"), m_camera->spec.ip } });
 }
 
+int HST_Document::etherType()
+{
+    hostCall("document.etherType");
+    return m_camera ? m_camera->spec.etherType : 0;
+}
+
+void HST_Document::setEtherType(int type)
+{
+    hostCall("document.setEtherType");
+    if (!m_camera)
+        return;
+    m_camera->spec.etherType = type;
+    record(QStringLiteral("setEtherType"), { { QStringLiteral("type"), type } });
+}
+
 void HST_Document::networkAddresses(QString& ip, QString& subnetmask, QString& gateway)
 {
     hostCall("document.networkAddresses");
     ip = ipAddress(true);
-    subnetmask = m_camera ? QStringLiteral("255.255.255.0") : QString();
-    gateway.clear();
+    subnetmask = m_camera ? m_camera->spec.subnetmask : QString();
+    gateway = m_camera ? m_camera->spec.gateway : QString();
 }
 
 quint64 HST_Document::serialNumber(bool device)
@@ -264,16 +337,23 @@ int HST_Document::lowLightMode()
 QList<int>& HST_Document::partitions(QList<int>& out)
 {
     hostCall("document.partitions");
-    out = m_camera ? QList<int> { 1 } : QList<int>();
+    out.clear();
+    for (const HST_PartitionSpec& spec : m_spec.partitions)
+        out.append(spec.number);
     return out;
 }
 
 QString& HST_Document::numberOptionText(
-    QString& out, int, int, int, bool* usesSession, const QDateTime*)
+    QString& out, int mode, int partition, int session, bool* usesSession, const QDateTime*)
 {
     hostCall("document.numberOptionText");
-    if (usesSession)
-        *usesSession = false;
-    out.clear();
+    HST_NumberOption::Document document;
+    if (m_camera) {
+        document.deviceNumber = m_camera->index;
+        document.headNumber = m_camera->spec.headNumber;
+        document.recordingRate = 1000;
+    }
+    out = HST_NumberOption::text(
+        m_context ? m_context->prefs : nullptr, mode, partition, session, document, usesSession);
     return out;
 }

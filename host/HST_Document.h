@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/HST_CustomData.h"
+#include "host/HST_Scenario.h"
 #include "plugin/DOC_Interface.h"
 
 #include <QSize>
@@ -8,34 +10,45 @@
 
 struct HST_CameraState;
 class HST_Faults;
+class HST_Preferences;
+class HST_Recorder;
+
+// What the host lends all its documents; each part may be null.
+struct HST_DocumentContext
+{
+    // Where every operation starts (HST_Faults).
+    HST_Faults* faults = nullptr;
+    // Where changes are told.
+    HST_Recorder* recorder = nullptr;
+    // For numberOptionText.
+    HST_Preferences* prefs = nullptr;
+    // The devices the host has: deviceCount of every document.
+    int deviceCount = 1;
+};
 
 // A document of the reference host: one document of a simulated camera, or a file without one.
 // Operations the simulation has no data for answer neutrally: false, 0, empty, or nothing.
 class HST_Document final : public DOC_Interface
 {
 public:
-    // camera null: a file document.
-    // faults: where every operation starts (HST_Faults); may be null.
-    HST_Document(int key, HST_CameraState* camera, int documentIndex, HST_Faults* faults = nullptr);
+    // camera null: a file document. context may be null; it outlives the document.
+    HST_Document(int key, HST_CameraState* camera, int documentIndex,
+        HST_DocumentContext* context = nullptr, const HST_DocumentSpec& spec = HST_DocumentSpec());
 
     int key() const { return m_key; }
     HST_CameraState* cameraState() const { return m_camera; }
     // The name of a document without a camera.
-    QString fileName() const { return QStringLiteral("file-%1").arg(m_documentIndex + 1); }
+    QString fileName() const;
+    bool isTemporary() const { return m_spec.temporary; }
+    // The host's own view, for its window: neither recorded nor faulted.
+    QString commentText() const { return m_comment; }
+    const QVariantList& customItems() const { return m_customData.items(); }
 
     // DOC_Interface
     DOC_Camera* asCamera() override;
     void heads(QList<DOC_Interface*>& out, bool all = true) override;
-    int headCount() override
-    {
-        hostCall("document.headCount");
-        return 1;
-    }
-    bool isConnected() override
-    {
-        hostCall("document.isConnected");
-        return m_camera != nullptr;
-    }
+    int headCount() override;
+    bool isConnected() override;
     void setConnectWanted(bool) override { hostCall("document.setConnectWanted"); }
     bool isSelected() override
     {
@@ -66,11 +79,7 @@ public:
 
     // DOC_Feed, DOC_Playback
     void restart(bool) override { hostCall("document.restart"); }
-    unsigned partitionFrames(int, int = 0) override
-    {
-        hostCall("document.partitionFrames");
-        return 1000;
-    }
+    unsigned partitionFrames(int partition, int = 0) override;
 
     // DOC_ImageData
     QSize imageSize(QSize& out) override;
@@ -95,11 +104,7 @@ public:
         hostCall("document.comment");
         return out = m_comment;
     }
-    void setComment(const QString& text) override
-    {
-        hostCall("document.setComment");
-        m_comment = text;
-    }
+    void setComment(const QString& text) override;
 
     // DOC_Camera
     QString ipAddress(bool current = true) override;
@@ -132,11 +137,7 @@ public:
     }
     QString modelText(bool full = true) override;
     int deviceNumber() override;
-    int headNumber() override
-    {
-        hostCall("document.headNumber");
-        return m_camera ? 1 : 0;
-    }
+    int headNumber() override;
     QString headName(bool current = true) override
     {
         hostCall("document.headName");
@@ -163,20 +164,12 @@ public:
         return false;
     }
     void firmwareVersion(QString& out) override;
-    void firmwareVersion2(QString& out) override
-    {
-        hostCall("document.firmwareVersion2");
-        out.clear();
-    }
-    void firmwareVersion3(QString& out) override
-    {
-        hostCall("document.firmwareVersion3");
-        out.clear();
-    }
+    void firmwareVersion2(QString& out) override;
+    void firmwareVersion3(QString& out) override;
     QVariantList& customData(QVariantList& out) override
     {
         hostCall("document.customData");
-        return out = m_customData;
+        return out = m_customData.items();
     }
     void clearCustomData() override
     {
@@ -326,16 +319,8 @@ public:
         hostCall("document.supportsWifiConnected");
         return 0;
     }
-    int etherType() override
-    {
-        hostCall("document.etherType");
-        return m_etherType;
-    }
-    void setEtherType(int type) override
-    {
-        hostCall("document.setEtherType");
-        m_etherType = type;
-    }
+    int etherType() override;
+    void setEtherType(int type) override;
     void networkAddresses(QString& ip, QString& subnetmask, QString& gateway) override;
     quint64 serialNumber(bool device) override;
     int supportsLinkSpeed() override
@@ -355,7 +340,7 @@ public:
     int deviceCount() override
     {
         hostCall("document.deviceCount");
-        return 1;
+        return m_context ? m_context->deviceCount : 1;
     }
 
     // DOC_Display
@@ -413,14 +398,16 @@ public:
 
 private:
     void hostCall(const char* operation) const;
+    void record(const QString& call, QJsonObject fields) const;
     QSize imageSizeValue() const;
-    int customIndex(const QString& name) const;
+    const HST_PartitionSpec* partitionSpec(int partition) const;
+    QString firmwarePart(int index) const;
 
     int m_key;
     HST_CameraState* m_camera;
     int m_documentIndex;
-    HST_Faults* m_faults;
+    HST_DocumentContext* m_context;
+    HST_DocumentSpec m_spec;
     QString m_comment;
-    QVariantList m_customData;
-    int m_etherType = 0;
+    HST_CustomData m_customData;
 };

@@ -1,6 +1,7 @@
 #include "host/HST_Host.h"
 
 #include "host/HST_CameraState.h"
+#include "host/HST_Devices.h"
 #include "host/HST_Document.h"
 #include "host/HST_Faults.h"
 #include "host/HST_HubList.h"
@@ -76,15 +77,20 @@ HST_Host::HST_Host(
     , m_mainScriptObject(new QObject(this))
     , m_mode(scenario.mode)
     , m_faults(std::make_unique<HST_Faults>(scenario.faults, recorder))
+    , m_saveRegistry(std::make_unique<HST_SaveRegistry>(
+          recorder, scenario.saveGroupDirectory, scenario.saveDirectory))
     , m_hubs(new HST_HubList(scenario.hubs, recorder, m_faults.get()))
 {
+    m_documentContext.faults = m_faults.get();
+    m_documentContext.recorder = recorder;
+    m_documentContext.prefs = m_prefs.get();
     initResources();
     m_scriptObject->setObjectName(QStringLiteral("app"));
     m_mainScriptObject->setObjectName(QStringLiteral("main"));
     for (auto it = scenario.prefs.begin(); it != scenario.prefs.end(); ++it)
         m_prefs->preset(it.key(), it.value());
     setTypeRecords(scenario.syncCapableTypes);
-    addDocuments(scenario.cameras, scenario.files);
+    addDocuments(scenario.cameras, scenario.fileDocuments);
 }
 
 void HST_Host::setTypeRecords(const QList<int>& types)
@@ -96,35 +102,53 @@ void HST_Host::setTypeRecords(const QList<int>& types)
     }
 }
 
-void HST_Host::addDocuments(const QList<HST_CameraSpec>& cameras, int files)
+void HST_Host::addDocuments(
+    const QList<HST_CameraSpec>& cameras, const QList<HST_DocumentSpec>& files)
 {
-    for (int i = 0; i < cameras.size(); ++i) {
-        m_cameras.emplace_back(new HST_CameraState);
-        HST_CameraState* camera = m_cameras.back().get();
-        camera->spec = cameras.at(i);
-        camera->index = i;
-        camera->recorder = m_recorder;
-        camera->recorded.store(camera->spec.recorded);
-        camera->syncRequired.store(camera->spec.syncRequired);
-        for (int d = 0; d < camera->spec.documents; ++d) {
-            m_allDocuments.emplace_back(new HST_Document(m_nextKey, camera, d, m_faults.get()));
-            HST_Document* document = m_allDocuments.back().get();
-            m_documents.insert(m_nextKey++, document);
-            if (!camera->primary) {
-                camera->primary = document;
-                m_cameraByPointer.insert(document, camera);
-            }
-        }
+    for (const HST_CameraSpec& spec : cameras)
+        addCamera(spec);
+    for (const HST_DocumentSpec& file : files) {
+        m_allDocuments.emplace_back(
+            new HST_Document(m_nextKey, nullptr, m_fileCount++, &m_documentContext, file));
+        m_documents.insert(m_nextKey++, m_allDocuments.back().get());
     }
-    for (int i = 0; i < files; ++i)
-        addFileDocument();
+    countDevices();
     if (!m_documents.isEmpty())
         m_currentKey = m_documents.firstKey();
 }
 
+HST_CameraState* HST_Host::addCamera(const HST_CameraSpec& spec)
+{
+    m_cameras.emplace_back(new HST_CameraState);
+    HST_CameraState* camera = m_cameras.back().get();
+    camera->spec = spec;
+    camera->index = int(m_cameras.size()) - 1;
+    camera->recorder = m_recorder;
+    camera->recorded.store(camera->spec.recorded);
+    camera->syncRequired.store(camera->spec.syncRequired);
+    for (int d = 0; d < camera->spec.documents; ++d) {
+        m_allDocuments.emplace_back(
+            new HST_Document(m_nextKey, camera, d, &m_documentContext, spec.document));
+        HST_Document* document = m_allDocuments.back().get();
+        m_documents.insert(m_nextKey++, document);
+        if (!camera->primary) {
+            camera->primary = document;
+            m_cameraByPointer.insert(document, camera);
+        }
+    }
+    return camera;
+}
+
+void HST_Host::countDevices()
+{
+    m_documentContext.deviceCount
+        = m_scenario.deviceCount >= 0 ? m_scenario.deviceCount : int(m_cameras.size());
+}
+
 bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
 {
-    for (const char* fixed : { "visa", "generator", "faults" }) {
+    for (const char* fixed : { "visa", "generator", "faults", "versionText", "defaultCameraName",
+             "cameraNameList", "deviceCount", "saveRegistry" }) {
         if (world.contains(QLatin1String(fixed))) {
             error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
             return false;
@@ -150,8 +174,10 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
     if (has("cameras") || has("files")) {
         if (has("cameras"))
             m_scenario.cameras = part.cameras;
-        if (has("files"))
+        if (has("files")) {
             m_scenario.files = part.files;
+            m_scenario.fileDocuments = part.fileDocuments;
+        }
         // The documents and cameras of before stay alive, like a removed document.
         for (auto& camera : m_cameras)
             m_retiredCameras.push_back(std::move(camera));
@@ -160,7 +186,7 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
         m_documents.clear();
         m_currentKey = INVALID_DOCKEY;
         m_fileCount = 0;
-        addDocuments(m_scenario.cameras, m_scenario.files);
+        addDocuments(m_scenario.cameras, m_scenario.fileDocuments);
     }
     m_recorder->record(QStringLiteral("world"),
         { { QStringLiteral("keys"), QJsonArray::fromStringList(world.keys()) } });
@@ -212,8 +238,9 @@ void HST_Host::setMode(int mode)
 
 int HST_Host::addFileDocument()
 {
-    m_allDocuments.emplace_back(
-        new HST_Document(m_nextKey, nullptr, m_fileCount++, m_faults.get()));
+    const int index = m_fileCount++;
+    m_allDocuments.emplace_back(new HST_Document(
+        m_nextKey, nullptr, index, &m_documentContext, HST_Scenario::fileDocument(index)));
     m_documents.insert(m_nextKey, m_allDocuments.back().get());
     emit stateChanged();
     return m_nextKey++;
@@ -473,7 +500,7 @@ void HST_Host::beginModalDialog()
 QString& HST_Host::versionText(QString& out)
 {
     hostCall("versionText");
-    out = QStringLiteral("tarvix4host 1.0");
+    out = m_scenario.versionText;
     return out;
 }
 
@@ -550,6 +577,17 @@ QList<int>& HST_Host::documentKeysForList(QList<int>& out, int)
 {
     hostCall("documentKeysForList");
     out = m_documents.keys();
+    return out;
+}
+
+QList<int>& HST_Host::temporaryDocumentKeys(QList<int>& out)
+{
+    hostCall("temporaryDocumentKeys");
+    out.clear();
+    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
+        if (it.value()->isTemporary())
+            out.append(it.key());
+    }
     return out;
 }
 
@@ -727,4 +765,39 @@ void HST_Host::applyChanges()
 {
     hostCall("applyChanges");
     m_hubs->applyChanges();
+}
+
+QString& HST_Host::defaultCameraName(QString& out, int)
+{
+    hostCall("defaultCameraName");
+    out = m_scenario.defaultCameraName.isEmpty() ? HST_Devices::defaultName(int(m_cameras.size()))
+                                                 : m_scenario.defaultCameraName;
+    return out;
+}
+
+void HST_Host::addDevice(const QString& cameraName, const QString& ip, bool isDummy, bool connect)
+{
+    hostCall("addDevice");
+    const HST_CameraSpec spec = HST_Devices::newDevice(m_cameras, cameraName, ip, isDummy);
+    HST_CameraState* camera = addCamera(spec);
+    camera->connected = connect;
+    countDevices();
+    if (m_currentKey == INVALID_DOCKEY)
+        m_currentKey = camera->primary->key();
+    HST_Devices::recordAdded(m_recorder, *camera, connect);
+    emit stateChanged();
+}
+
+void HST_Host::editDevice(int key, const QString& cameraName, const QString& ip,
+    const QString& subnetmask, const QString& gateway, bool cameraMode)
+{
+    hostCall("editDevice");
+    HST_Document* document = m_documents.value(key, nullptr);
+    HST_Devices::edit(m_cameras, document ? document->cameraState() : nullptr, cameraName, ip,
+        subnetmask, gateway);
+    m_recorder->record(QStringLiteral("editDevice"),
+        { { QStringLiteral("key"), key }, { QStringLiteral("name"), cameraName },
+            { QStringLiteral("ip"), ip }, { QStringLiteral("subnetmask"), subnetmask },
+            { QStringLiteral("gateway"), gateway }, { QStringLiteral("cameraMode"), cameraMode } });
+    emit stateChanged();
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "host/HST_Document.h"
 #include "host/HST_NeutralHost.h"
+#include "host/HST_SaveRegistry.h"
 #include "host/HST_Scenario.h"
 #include "plugin/APP_CameraTypeRecord.h"
 
@@ -13,7 +15,6 @@
 #include <memory>
 #include <vector>
 
-class HST_Document;
 class HST_Faults;
 class HST_HubList;
 class HST_Preferences;
@@ -46,6 +47,7 @@ public:
     // (cameras and files replace all documents); false with error set when refused.
     bool changeWorld(const QJsonObject& world, QString& error);
     HST_HubList* hubs() const { return m_hubs.get(); }
+    HST_SaveRegistry* saveRegistry() const { return m_saveRegistry.get(); }
     int modalDepth() const { return m_modalDepth; }
     HST_Faults* faults() const { return m_faults.get(); }
 
@@ -144,6 +146,11 @@ public:
     void endModalDialog() override;
     void beginModalDialog() override;
     QString& versionText(QString& out) override;
+    bool isCameraNameListEnabled() override
+    {
+        hostCall("isCameraNameListEnabled");
+        return m_scenario.cameraNameList;
+    }
     void runWithBusyDialog(const QString& text, QFutureWatcher<void>* watcher) override;
 
     // APP_DocumentList
@@ -178,6 +185,7 @@ public:
         return m_documents.size();
     }
     QList<int>& documentKeysForList(QList<int>& out, int filter = 1) override;
+    QList<int>& temporaryDocumentKeys(QList<int>& out) override;
     QList<int>& openedDocumentKeys(
         QList<int>& out, bool first = true, bool second = false) override;
     QList<int>& liveDocumentKeys(QList<int>& out, int filter = 0) override;
@@ -194,6 +202,65 @@ public:
     void applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor, bool external,
         bool generatorControl, int syncIn, int frequency, int polarity) override;
     bool isSyncRequired() override;
+    QString& defaultCameraName(QString& out, int reserved = 0) override;
+    // Both refuse a name or address that no camera can have, and an address in use, with
+    // APP_Exception; nothing changes then.
+    void editDevice(int key, const QString& cameraName, const QString& ip,
+        const QString& subnetmask, const QString& gateway, bool cameraMode) override;
+    void addDevice(
+        const QString& cameraName, const QString& ip, bool isDummy, bool connect) override;
+
+    // APP_SaveRegistry (HST_SaveRegistry)
+    void commitPendingNames() override
+    {
+        hostCall("commitPendingNames");
+        m_saveRegistry->commitPendingNames();
+    }
+    void beginNamePass() override
+    {
+        hostCall("beginNamePass");
+        m_saveRegistry->beginNamePass();
+    }
+    void noteGroupDirectory(const QString& groupDir) override
+    {
+        hostCall("noteGroupDirectory");
+        m_saveRegistry->noteGroupDirectory(groupDir);
+    }
+    void noteDirectory(const QString& dir) override
+    {
+        hostCall("noteDirectory");
+        m_saveRegistry->noteDirectory(dir);
+    }
+    void notePath(const QString& path) override
+    {
+        hostCall("notePath");
+        m_saveRegistry->notePath(path);
+    }
+    bool isDirectoryTaken(const QString& dir) override
+    {
+        hostCall("isDirectoryTaken");
+        return m_saveRegistry->isDirectoryTaken(dir);
+    }
+    bool isPathTaken(const QString& path) override
+    {
+        hostCall("isPathTaken");
+        return m_saveRegistry->isPathTaken(path);
+    }
+    QString& groupDirectoryOverride(QString& out) override
+    {
+        hostCall("groupDirectoryOverride");
+        return out = m_saveRegistry->groupDirectoryOverride();
+    }
+    QString& directoryOverride(QString& out) override
+    {
+        hostCall("directoryOverride");
+        return out = m_saveRegistry->directoryOverride();
+    }
+    void beginGroupPass() override
+    {
+        hostCall("beginGroupPass");
+        m_saveRegistry->beginGroupPass();
+    }
 
     // APP_LinkCoreManager
     void setActive(bool active) override;
@@ -214,7 +281,9 @@ protected:
 
 private:
     void setTypeRecords(const QList<int>& types);
-    void addDocuments(const QList<HST_CameraSpec>& cameras, int files);
+    void addDocuments(const QList<HST_CameraSpec>& cameras, const QList<HST_DocumentSpec>& files);
+    HST_CameraState* addCamera(const HST_CameraSpec& spec);
+    void countDevices();
     // Records the box with the text of the button that closed it.
     QMessageBox::StandardButton runMessageBox(const QString& kind, QMessageBox::Icon icon,
         const QString& text, const QStringList& details, QWidget* parent, bool withCancel);
@@ -230,6 +299,8 @@ private:
     int m_modalDepth = 0;
 
     std::unique_ptr<HST_Faults> m_faults;
+    HST_DocumentContext m_documentContext;
+    std::unique_ptr<HST_SaveRegistry> m_saveRegistry;
     std::vector<std::unique_ptr<HST_CameraState>> m_cameras;
     // All documents ever made; a removed one stays alive, since a dialog may still hold it.
     std::vector<std::unique_ptr<HST_Document>> m_allDocuments;

@@ -17,7 +17,7 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     : m_host(host)
     , m_toolBar(addToolBar(QStringLiteral("Plug-ins")))
     , m_modeBox(new QComboBox(this))
-    , m_documentTable(new QTableWidget(0, 5, this))
+    , m_documentTable(new QTableWidget(0, 7, this))
 {
     setObjectName(QStringLiteral("host_mainWindow"));
     setWindowTitle(QStringLiteral("tarvix4host"));
@@ -43,7 +43,8 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
 
     m_documentTable->setObjectName(QStringLiteral("host_documents"));
     m_documentTable->setHorizontalHeaderLabels({ QStringLiteral("Key"), QStringLiteral("Name"),
-        QStringLiteral("Address"), QStringLiteral("Type"), QStringLiteral("Model") });
+        QStringLiteral("Address"), QStringLiteral("Type"), QStringLiteral("Model"),
+        QStringLiteral("Comment"), QStringLiteral("Custom info") });
     m_documentTable->horizontalHeader()->setStretchLastSection(true);
     m_documentTable->verticalHeader()->hide();
     m_documentTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -152,6 +153,28 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
     emit executeFinished(name);
 }
 
+namespace {
+
+// "name=value unit" per item, the displayed ones marked with "*".
+QString customText(const QVariantList& items)
+{
+    QStringList texts;
+    for (const QVariant& item : items) {
+        const QVariantMap map = item.toMap();
+        QString text = map.value(QStringLiteral("name")).toString() + QLatin1Char('=')
+            + map.value(QStringLiteral("value")).toString();
+        const QString unit = map.value(QStringLiteral("unit")).toString();
+        if (!unit.isEmpty())
+            text += QLatin1Char(' ') + unit;
+        if (map.value(QStringLiteral("display")).toString() == QLatin1String("on"))
+            text += QLatin1Char('*');
+        texts.append(text);
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
 void HST_MainWindow::fillDocuments()
 {
     const QList<HST_Document*> documents = m_host->openDocuments();
@@ -162,7 +185,8 @@ void HST_MainWindow::fillDocuments()
         const QStringList cells { QString::number(document->key()),
             camera ? camera->spec.name : document->fileName(), camera ? camera->spec.ip : QString(),
             camera ? QString::number(camera->spec.type) : QString(),
-            camera ? camera->spec.model : QStringLiteral("(file)") };
+            camera ? camera->spec.model : QStringLiteral("(file)"), document->commentText(),
+            customText(document->customItems()) };
         for (int column = 0; column < cells.size(); ++column)
             m_documentTable->setItem(row, column, new QTableWidgetItem(cells.at(column)));
     }

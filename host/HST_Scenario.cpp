@@ -136,13 +136,118 @@ QList<int> readIntList(const QJsonObject& object, const QString& path, const QSt
     return list;
 }
 
-void checkAddress(const QString& key, const QString& ip)
+QStringList readStringList(const QJsonObject& object, const QString& path, const QString& key)
+{
+    const QString name = join(path, key);
+    const QJsonArray array = readArray(object, path, key);
+    QStringList list;
+    for (int i = 0; i < array.size(); ++i) {
+        if (!array.at(i).isString())
+            wrongType(QStringLiteral("%1[%2]").arg(name).arg(i), "a string", array.at(i));
+        list.append(array.at(i).toString());
+    }
+    return list;
+}
+
+QVariantList readCustomData(const QJsonObject& parent, const QString& path)
+{
+    const QString name = join(path, QStringLiteral("customData"));
+    const QJsonArray array = readArray(parent, path, QStringLiteral("customData"));
+    QVariantList items;
+    QSet<QString> seen;
+    for (int i = 0; i < array.size(); ++i) {
+        const QString itemPath = QStringLiteral("%1[%2]").arg(name).arg(i);
+        if (!array.at(i).isObject())
+            wrongType(itemPath, "an object", array.at(i));
+        const QJsonObject object = array.at(i).toObject();
+        checkKeys(object, itemPath, { "name", "value", "unit", "display", "usefilename" });
+        const QString itemName = readString(object, itemPath, QStringLiteral("name"), QString());
+        // Documents find their items by name.
+        if (itemName.isEmpty())
+            refuse(join(itemPath, QStringLiteral("name")), QStringLiteral("no name"));
+        if (seen.contains(itemName))
+            refuse(join(itemPath, QStringLiteral("name")),
+                QStringLiteral("duplicate custom item \"%1\"").arg(itemName));
+        seen.insert(itemName);
+        const auto flag = [&](const char* key) {
+            return readBool(object, itemPath, QLatin1String(key), true) ? QStringLiteral("on")
+                                                                        : QStringLiteral("off");
+        };
+        items.append(QVariantMap { { QStringLiteral("name"), itemName },
+            { QStringLiteral("value"),
+                readString(object, itemPath, QStringLiteral("value"), QString()) },
+            { QStringLiteral("unit"),
+                readString(object, itemPath, QStringLiteral("unit"), QString()) },
+            { QStringLiteral("display"), flag("display") },
+            { QStringLiteral("usefilename"), flag("usefilename") } });
+    }
+    return items;
+}
+
+QList<HST_PartitionSpec> readPartitions(const QJsonObject& parent, const QString& path)
+{
+    const QString name = join(path, QStringLiteral("partitions"));
+    const QJsonArray array = readArray(parent, path, QStringLiteral("partitions"));
+    QList<HST_PartitionSpec> partitions;
+    QSet<int> seen;
+    for (int i = 0; i < array.size(); ++i) {
+        const QString itemPath = QStringLiteral("%1[%2]").arg(name).arg(i);
+        if (!array.at(i).isObject())
+            wrongType(itemPath, "an object", array.at(i));
+        const QJsonObject object = array.at(i).toObject();
+        checkKeys(object, itemPath, { "number", "name", "frames" });
+        HST_PartitionSpec partition;
+        partition.number = readInt(object, itemPath, QStringLiteral("number"), i + 1, 0);
+        if (seen.contains(partition.number))
+            refuse(join(itemPath, QStringLiteral("number")),
+                QStringLiteral("duplicate partition %1").arg(partition.number));
+        seen.insert(partition.number);
+        partition.name = readString(object, itemPath, QStringLiteral("name"),
+            QStringLiteral("Partition %1").arg(partition.number));
+        partition.frames = unsigned(readInt(object, itemPath, QStringLiteral("frames"), 1000, 0));
+        partitions.append(partition);
+    }
+    return partitions;
+}
+
+// The keys a camera's documents and a file share.
+QStringList documentKeys()
+{
+    return { "customData", "comment", "partitions", "temporary" };
+}
+
+// Keys left out keep what document holds.
+void readDocument(const QJsonObject& object, const QString& path, HST_DocumentSpec& document)
+{
+    if (object.contains(QLatin1String("customData")))
+        document.customData = readCustomData(object, path);
+    document.comment = readString(object, path, QStringLiteral("comment"), document.comment);
+    if (object.contains(QLatin1String("partitions")))
+        document.partitions = readPartitions(object, path);
+    document.temporary = readBool(object, path, QStringLiteral("temporary"), document.temporary);
+}
+
+HST_DocumentSpec readFile(const QJsonValue& value, const QString& name, int index)
+{
+    if (!value.isObject())
+        wrongType(name, "an object", value);
+    const QJsonObject object = value.toObject();
+    checkKeys(object, name, documentKeys() + QStringList { "name", "path" });
+    HST_DocumentSpec document = HST_Scenario::fileDocument(index);
+    readDocument(object, name, document);
+    document.baseName = readString(object, name, QStringLiteral("name"), document.baseName);
+    document.filePath = readString(object, name, QStringLiteral("path"), document.filePath);
+    return document;
+}
+
+// A dummy camera's address may have groups above 255, such as "999.999.999.1".
+void checkAddress(const QString& key, const QString& ip, bool dummy = false)
 {
     static const QRegularExpression dotted(
         QStringLiteral("^(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})$"));
     const QRegularExpressionMatch match = dotted.match(ip);
     bool ok = match.hasMatch();
-    for (int i = 1; ok && i <= 4; ++i)
+    for (int i = 1; ok && !dummy && i <= 4; ++i)
         ok = match.captured(i).toInt() <= 255;
     if (!ok)
         refuse(key, QStringLiteral("\"%1\" is not a dotted IPv4 address").arg(ip));
@@ -173,15 +278,19 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
         wrongType(name, "an object", value);
     const QJsonObject object = value.toObject();
     checkKeys(object, name,
-        { "name", "ip", "type", "model", "triggerMode", "lowLightMode", "dualSlopeShutter",
-            "automaticExposureControl", "exposureTimingFlag", "exposureTimingClass", "documents",
-            "dummy", "needsErase", "recorded", "syncRequired" });
+        documentKeys()
+            + QStringList { "name", "ip", "type", "model", "triggerMode", "lowLightMode",
+                "dualSlopeShutter", "automaticExposureControl", "exposureTimingFlag",
+                "exposureTimingClass", "documents", "dummy", "needsErase", "recorded",
+                "syncRequired", "subnetmask", "gateway", "etherType", "headNumber", "headCount",
+                "firmware", "functions", "filePath" });
     HST_CameraSpec camera;
     camera.name = readString(
         object, name, QStringLiteral("name"), QStringLiteral("Camera %1").arg(index + 1));
     camera.ip = readString(
         object, name, QStringLiteral("ip"), QStringLiteral("192.168.0.%1").arg(10 + index));
-    checkAddress(join(name, QStringLiteral("ip")), camera.ip);
+    camera.dummy = readBool(object, name, QStringLiteral("dummy"), false);
+    checkAddress(join(name, QStringLiteral("ip")), camera.ip, camera.dummy);
     camera.type = readInt(object, name, QStringLiteral("type"), camera.type);
     camera.model = readString(object, name, QStringLiteral("model"),
         QStringLiteral("HX-%1 type A model 1").arg(camera.type));
@@ -193,10 +302,26 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
     camera.exposureTimingFlag = readInt(object, name, QStringLiteral("exposureTimingFlag"), 0);
     camera.exposureTimingClass = readInt(object, name, QStringLiteral("exposureTimingClass"), 0);
     camera.documents = readInt(object, name, QStringLiteral("documents"), 1, 0, 64);
-    camera.dummy = readBool(object, name, QStringLiteral("dummy"), false);
     camera.needsErase = readBool(object, name, QStringLiteral("needsErase"), false);
     camera.recorded = readBool(object, name, QStringLiteral("recorded"), false);
     camera.syncRequired = readBool(object, name, QStringLiteral("syncRequired"), false);
+    camera.subnetmask = readString(object, name, QStringLiteral("subnetmask"), camera.subnetmask);
+    checkAddress(join(name, QStringLiteral("subnetmask")), camera.subnetmask);
+    camera.gateway = readString(object, name, QStringLiteral("gateway"), QString());
+    if (!camera.gateway.isEmpty())
+        checkAddress(join(name, QStringLiteral("gateway")), camera.gateway);
+    camera.etherType = readInt(object, name, QStringLiteral("etherType"), 0);
+    camera.headNumber = readInt(object, name, QStringLiteral("headNumber"), 1, 1, 99);
+    camera.headCount = readInt(object, name, QStringLiteral("headCount"), 1, 1, 99);
+    if (object.contains(QLatin1String("firmware"))) {
+        camera.firmware = readStringList(object, name, QStringLiteral("firmware"));
+        if (camera.firmware.isEmpty() || camera.firmware.size() > 3)
+            refuse(join(name, QStringLiteral("firmware")), QStringLiteral("not 1 to 3 parts"));
+    }
+    if (object.contains(QLatin1String("functions")))
+        camera.functions = readIntList(object, name, QStringLiteral("functions"));
+    readDocument(object, name, camera.document);
+    camera.document.filePath = readString(object, name, QStringLiteral("filePath"), QString());
     return camera;
 }
 
@@ -265,7 +390,8 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
 {
     checkKeys(root, QString(),
         { "mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync", "visa",
-            "generator", "faults" });
+            "generator", "faults", "versionText", "defaultCameraName", "cameraNameList",
+            "deviceCount", "saveRegistry" });
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
@@ -282,7 +408,18 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
             out.cameras.append(camera);
         }
     }
-    out.files = readInt(root, QString(), QStringLiteral("files"), 0, 0, 64);
+    if (root.value(QLatin1String("files")).isArray()) {
+        const QJsonArray files = readArray(root, QString(), QStringLiteral("files"));
+        if (files.size() > 64)
+            refuse(QStringLiteral("files"), QStringLiteral("more than 64 files"));
+        for (int i = 0; i < files.size(); ++i)
+            out.fileDocuments.append(readFile(files.at(i), QStringLiteral("files[%1]").arg(i), i));
+        out.files = files.size();
+    } else {
+        out.files = readInt(root, QString(), QStringLiteral("files"), 0, 0, 64);
+        for (int i = 0; i < out.files; ++i)
+            out.fileDocuments.append(readFile(QJsonObject(), QString(), i));
+    }
     if (root.contains(QLatin1String("hubs"))) {
         const QJsonArray hubs = readArray(root, QString(), QStringLiteral("hubs"));
         QSet<QString> seen;
@@ -302,6 +439,19 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
             out.prefs.insert(it.key(), prefValue(it.value(), QStringLiteral("prefs.") + it.key()));
     }
     out.applySync = readOutcome(root, QString(), QStringLiteral("applySync"));
+    out.versionText = readString(root, QString(), QStringLiteral("versionText"), out.versionText);
+    out.defaultCameraName
+        = readString(root, QString(), QStringLiteral("defaultCameraName"), QString());
+    out.cameraNameList = readBool(root, QString(), QStringLiteral("cameraNameList"), true);
+    out.deviceCount = readInt(root, QString(), QStringLiteral("deviceCount"), -1, 0, 9999);
+    if (root.contains(QLatin1String("saveRegistry"))) {
+        const QString path = QStringLiteral("saveRegistry");
+        const QJsonObject registry = readObject(root, QString(), path);
+        checkKeys(registry, path, { "groupDirectory", "directory" });
+        out.saveGroupDirectory
+            = readString(registry, path, QStringLiteral("groupDirectory"), QString());
+        out.saveDirectory = readString(registry, path, QStringLiteral("directory"), QString());
+    }
     out.visa = readBool(root, QString(), QStringLiteral("visa"), false);
     if (root.contains(QLatin1String("generator"))) {
         const QString path = QStringLiteral("generator");
@@ -362,6 +512,14 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
 }
 
 } // namespace
+
+HST_DocumentSpec HST_Scenario::fileDocument(int index)
+{
+    HST_DocumentSpec document;
+    document.baseName = QStringLiteral("file-%1").arg(index + 1);
+    document.filePath = QStringLiteral("/simulated/file-%1.dat").arg(index + 1);
+    return document;
+}
 
 bool HST_Scenario::fromFile(const QString& path, HST_Scenario& out, QString& error)
 {

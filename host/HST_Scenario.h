@@ -7,6 +7,8 @@
 #include <QList>
 #include <QMap>
 #include <QString>
+#include <QStringList>
+#include <QVariantList>
 #include <QVariantMap>
 
 // What a simulated operation does when called: succeed or throw, after a delay.
@@ -15,6 +17,27 @@ struct HST_Outcome
     bool ok = true;
     QString message;
     int delayMs = 0;
+};
+
+struct HST_PartitionSpec
+{
+    int number = 1;
+    QString name;
+    unsigned frames = 1000;
+};
+
+// What one document holds beyond its camera: the same for every document of a camera.
+struct HST_DocumentSpec
+{
+    // Custom items in order, each a map with name, value, unit, and display and usefilename
+    // as "on" or "off".
+    QVariantList customData;
+    QString comment;
+    QList<HST_PartitionSpec> partitions { { 1, QStringLiteral("Partition 1"), 1000 } };
+    QString filePath;
+    // A file's name; a camera's documents are named after the camera.
+    QString baseName;
+    bool temporary = false;
 };
 
 struct HST_CameraSpec
@@ -34,6 +57,16 @@ struct HST_CameraSpec
     bool needsErase = false;
     bool recorded = false;
     bool syncRequired = false;
+    QString subnetmask = QStringLiteral("255.255.255.0");
+    QString gateway;
+    int etherType = 0;
+    int headNumber = 1;
+    int headCount = 1;
+    // Up to three parts of the firmware version.
+    QStringList firmware { QStringLiteral("1.00") };
+    // Function numbers isFunctionSupported answers true for, beside 116 (needsErase).
+    QList<int> functions;
+    HST_DocumentSpec document;
 };
 
 // When a hub answers: from the host's start, from the first connectAll, or never.
@@ -61,6 +94,8 @@ public:
     QList<int> syncCapableTypes { 1 };
     QList<HST_CameraSpec> cameras;
     int files = 0;
+    // One for each of the files.
+    QList<HST_DocumentSpec> fileDocuments;
     QList<HST_HubSpec> hubs;
     QVariantMap prefs;
     HST_Outcome applySync;
@@ -70,6 +105,15 @@ public:
     QJsonObject generator;
     // Test hook: host operation -> the APP_Exception it throws, and when.
     QMap<QString, HST_Fault> faults;
+    QString versionText = QStringLiteral("tarvix4host 1.0");
+    // Empty: "Camera N" for the next camera.
+    QString defaultCameraName;
+    bool cameraNameList = true;
+    // Negative: the number of cameras.
+    int deviceCount = -1;
+    // The save registry's fixed group and target directories; empty: none fixed.
+    QString saveGroupDirectory;
+    QString saveDirectory;
     // Where the scenario came from, for messages.
     QString source;
 
@@ -77,4 +121,6 @@ public:
     static bool fromFile(const QString& path, HST_Scenario& out, QString& error);
     static bool fromJson(
         const QByteArray& json, const QString& source, HST_Scenario& out, QString& error);
+    // The document of the index-th file (from 0) when the scenario says no more of it.
+    static HST_DocumentSpec fileDocument(int index);
 };

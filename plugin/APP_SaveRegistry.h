@@ -23,4 +23,6 @@ public:
     virtual QString& groupDirectoryOverride(QString& out) = 0;
     virtual QString& directoryOverride(QString& out) = 0;
     virtual void copySelectArea(int kind = 2) = 0;
+    // A pass over group directories begins.
+    virtual void beginGroupPass() = 0;
 };

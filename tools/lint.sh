@@ -7,7 +7,7 @@ set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="${1:-$root/build}"
 cd "$root"
-folders=(plugin roi sync generator web util host visa instrument)
+folders=(plugin roi sync generator web util dialogs save host visa instrument)
 for f in "${folders[@]}"; do
     if [ ! -d "$f" ]; then
         echo "lint: $f/ is listed but does not exist" >&2

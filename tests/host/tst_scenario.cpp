@@ -47,6 +47,19 @@ void tst_Scenario::read_data()
         << QString()
         << QByteArray("{\"hubs\": [{\"state\": \"connected\", \"connectsOn\": \"never\"}]}")
         << QStringList { "\"hubs[0].connectsOn\"", "not both" };
+    QTest::newRow("custom item without a name")
+        << QString() << QByteArray("{\"cameras\": [{\"customData\": [{\"value\": \"1\"}]}]}")
+        << QStringList { "\"cameras[0].customData[0].name\"", "no name" };
+    QTest::newRow("a file's partition given twice")
+        << QString()
+        << QByteArray("{\"files\": [{\"partitions\": [{\"number\": 2}, {\"number\": 2}]}]}")
+        << QStringList { "\"files[0].partitions[1].number\"", "duplicate partition 2" };
+    QTest::newRow("firmware of four parts")
+        << QString() << QByteArray("{\"cameras\": [{\"firmware\": [\"1\", \"2\", \"3\", \"4\"]}]}")
+        << QStringList { "\"cameras[0].firmware\"", "not 1 to 3 parts" };
+    QTest::newRow("dummy address only for a dummy camera")
+        << QString() << QByteArray("{\"cameras\": [{\"ip\": \"999.999.999.1\"}]}")
+        << QStringList { "\"cameras[0].ip\"", "not a dotted IPv4 address" };
     QTest::newRow("fault whose key names no operation")
         << QString() << QByteArray("{\"faults\": {\"Sync now\": \"x\"}}")
         << QStringList { "\"faults.Sync now\"", "not the name of a host operation" };
