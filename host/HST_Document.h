@@ -22,6 +22,11 @@ public:
     HST_CameraState* cameraState() const { return m_camera; }
     // The name of a document without a camera.
     QString fileName() const { return QStringLiteral("file-%1").arg(m_documentIndex + 1); }
+    // What the host's window shows for it: the camera's name, or the file's.
+    QString title() const;
+    // The host's selection; not operations of the plug-in's, so neither recorded nor faulted.
+    bool selected() const { return m_selected; }
+    void setSelected(bool selected) { m_selected = selected; }
 
     // DOC_Interface
     DOC_Camera* asCamera() override;
@@ -31,21 +36,17 @@ public:
         hostCall("document.headCount");
         return 1;
     }
-    bool isConnected() override
-    {
-        hostCall("document.isConnected");
-        return m_camera != nullptr;
-    }
+    bool isConnected() override;
     void setConnectWanted(bool) override { hostCall("document.setConnectWanted"); }
     bool isSelected() override
     {
         hostCall("document.isSelected");
-        return false;
+        return m_selected;
     }
     bool isSelectedMulti() override
     {
         hostCall("document.isSelectedMulti");
-        return false;
+        return m_selected;
     }
     bool holdsCameraMemory() override
     {
@@ -55,14 +56,11 @@ public:
     QString& filePath(QString& out) override;
     QString& deviceName(QString& out) override;
     QString& baseName(QString& out) override;
-    bool isMobile() override
-    {
-        hostCall("document.isMobile");
-        return false;
-    }
+    bool isMobile() override;
     QString& partitionName(QString& out, int partition) override;
     void refresh(bool) override { hostCall("document.refresh"); }
     QString& sortName(QString& out) override;
+    bool isRostraLocked() override;
 
     // DOC_Feed, DOC_Playback
     void restart(bool) override { hostCall("document.restart"); }
@@ -100,6 +98,7 @@ public:
         hostCall("document.setComment");
         m_comment = text;
     }
+    bool imageFormat(int& depth, int& realDepth) override;
 
     // DOC_Camera
     QString ipAddress(bool current = true) override;
@@ -321,11 +320,7 @@ public:
     bool isDummy() override;
     bool hasRecordedData() override;
     void eraseRecordedData(int = 0) override;
-    int supportsWifiConnected() override
-    {
-        hostCall("document.supportsWifiConnected");
-        return 0;
-    }
+    int supportsWifiConnected() override;
     int etherType() override
     {
         hostCall("document.etherType");
@@ -338,11 +333,7 @@ public:
     }
     void networkAddresses(QString& ip, QString& subnetmask, QString& gateway) override;
     quint64 serialNumber(bool device) override;
-    int supportsLinkSpeed() override
-    {
-        hostCall("document.supportsLinkSpeed");
-        return 0;
-    }
+    int supportsLinkSpeed() override;
     int dualSlopeShutter() override;
     int automaticExposureControl() override;
     int lowLightMode() override;
@@ -423,4 +414,5 @@ private:
     QString m_comment;
     QVariantList m_customData;
     int m_etherType = 0;
+    bool m_selected = false;
 };

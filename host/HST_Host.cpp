@@ -2,22 +2,27 @@
 
 #include "host/HST_CameraState.h"
 #include "host/HST_Document.h"
+#include "host/HST_DocumentView.h"
 #include "host/HST_Faults.h"
 #include "host/HST_HubList.h"
 #include "host/HST_LinkCoreHub.h"
 #include "host/HST_Preferences.h"
+#include "host/HST_PrefsDialog.h"
 #include "host/HST_Recorder.h"
+#include "host/HST_SupportFile.h"
 #include "plugin/APP_MediatorObject.h"
 #include "util/APP_Exception.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QFutureWatcher>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMutexLocker>
 #include <QProgressDialog>
 #include <QThread>
@@ -69,6 +74,7 @@ static void initResources()
 HST_Host::HST_Host(
     const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
     : QObject(parent)
+    , HST_DocumentHost(recorder)
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
@@ -84,6 +90,9 @@ HST_Host::HST_Host(
     for (auto it = scenario.prefs.begin(); it != scenario.prefs.end(); ++it)
         m_prefs->preset(it.key(), it.value());
     setTypeRecords(scenario.syncCapableTypes);
+    applyStatus(scenario.status);
+    setRecordingStatus(scenario.recordingStatus);
+    setDocumentFaults(m_faults.get());
     addDocuments(scenario.cameras, scenario.files);
 }
 
@@ -96,35 +105,9 @@ void HST_Host::setTypeRecords(const QList<int>& types)
     }
 }
 
-void HST_Host::addDocuments(const QList<HST_CameraSpec>& cameras, int files)
-{
-    for (int i = 0; i < cameras.size(); ++i) {
-        m_cameras.emplace_back(new HST_CameraState);
-        HST_CameraState* camera = m_cameras.back().get();
-        camera->spec = cameras.at(i);
-        camera->index = i;
-        camera->recorder = m_recorder;
-        camera->recorded.store(camera->spec.recorded);
-        camera->syncRequired.store(camera->spec.syncRequired);
-        for (int d = 0; d < camera->spec.documents; ++d) {
-            m_allDocuments.emplace_back(new HST_Document(m_nextKey, camera, d, m_faults.get()));
-            HST_Document* document = m_allDocuments.back().get();
-            m_documents.insert(m_nextKey++, document);
-            if (!camera->primary) {
-                camera->primary = document;
-                m_cameraByPointer.insert(document, camera);
-            }
-        }
-    }
-    for (int i = 0; i < files; ++i)
-        addFileDocument();
-    if (!m_documents.isEmpty())
-        m_currentKey = m_documents.firstKey();
-}
-
 bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
 {
-    for (const char* fixed : { "visa", "generator", "faults" }) {
+    for (const char* fixed : { "visa", "generator", "faults", "exportSupportFile" }) {
         if (world.contains(QLatin1String(fixed))) {
             error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
             return false;
@@ -141,6 +124,10 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
         setTypeRecords(part.syncCapableTypes);
     if (has("applySync"))
         m_scenario.applySync = part.applySync;
+    if (has("status"))
+        applyStatus(part.status);
+    if (has("recordingStatus"))
+        setRecordingStatus(part.recordingStatus);
     if (has("hubs")) {
         // A hub the plug-in still points to stays alive.
         m_retiredHubs.push_back(std::move(m_hubs));
@@ -152,15 +139,7 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
             m_scenario.cameras = part.cameras;
         if (has("files"))
             m_scenario.files = part.files;
-        // The documents and cameras of before stay alive, like a removed document.
-        for (auto& camera : m_cameras)
-            m_retiredCameras.push_back(std::move(camera));
-        m_cameras.clear();
-        m_cameraByPointer.clear();
-        m_documents.clear();
-        m_currentKey = INVALID_DOCKEY;
-        m_fileCount = 0;
-        addDocuments(m_scenario.cameras, m_scenario.files);
+        replaceDocuments(m_scenario.cameras, m_scenario.files);
     }
     m_recorder->record(QStringLiteral("world"),
         { { QStringLiteral("keys"), QJsonArray::fromStringList(world.keys()) } });
@@ -177,6 +156,7 @@ void HST_Host::hostCall(const char* operation)
 
 HST_Host::~HST_Host()
 {
+    delete m_prefsDialog.data();
     if (m_translator)
         QCoreApplication::removeTranslator(m_translator);
 }
@@ -201,6 +181,75 @@ void HST_Host::setMainWindow(QWidget* window)
     m_mainWindow = window;
 }
 
+void HST_Host::setPluginWindowOpen(bool open)
+{
+    m_pluginWindows += open ? 1 : -1;
+}
+
+bool HST_Host::isOtherPluginOpen()
+{
+    hostCall("isOtherPluginOpen");
+    return m_pluginWindows > 0;
+}
+
+HST_PrefsDialog* HST_Host::preferencesDialog()
+{
+    if (!m_prefsDialog)
+        m_prefsDialog = new HST_PrefsDialog(
+            m_prefs.get(), m_recorder, [this](const QString& text) { return translatedText(text); },
+            m_mainWindow);
+    return m_prefsDialog;
+}
+
+APP_PrefsDialog* HST_Host::prefsDialog()
+{
+    hostCall("prefsDialog");
+    return preferencesDialog();
+}
+
+bool HST_Host::isPrefDialogOpening()
+{
+    hostCall("isPrefDialogOpening");
+    return m_prefsDialog && m_prefsDialog->isRunning();
+}
+
+void HST_Host::openEthernetSettings()
+{
+    hostCall("openEthernetSettings");
+    HST_PrefsDialog* dialog = preferencesDialog();
+    dialog->selectPage(translatedText(HST_PrefsDialog::ethernetPage()));
+    dialog->run();
+}
+
+bool HST_Host::exportSupportFile(const QString& zipPath)
+{
+    hostCall("exportSupportFile");
+    // Runs on a pool thread: the pictures and the host's state are taken on the GUI thread,
+    // which waits in the busy dialog meanwhile.
+    HST_SupportFile::Sources sources;
+    HST_Outcome outcome;
+    onGuiThread(this, [&] {
+        sources = HST_SupportFile::collect(*this);
+        outcome = m_scenario.exportSupportFile;
+    });
+    if (outcome.delayMs > 0)
+        QThread::msleep(ulong(outcome.delayMs));
+    QStringList entries;
+    QString error = outcome.ok ? QString() : outcome.message;
+    const bool written = outcome.ok && HST_SupportFile::write(zipPath, sources, entries, error);
+    m_recorder->record(QStringLiteral("exportSupportFile"),
+        { { QStringLiteral("path"), zipPath }, { QStringLiteral("result"), written },
+            { QStringLiteral("entries"), QJsonArray::fromStringList(entries) },
+            { QStringLiteral("error"), error } });
+    return written;
+}
+
+void HST_Host::pauseLive()
+{
+    hostCall("pauseLive");
+    m_recorder->record(QStringLiteral("pauseLive"));
+}
+
 void HST_Host::setMode(int mode)
 {
     if (mode == m_mode)
@@ -210,20 +259,12 @@ void HST_Host::setMode(int mode)
     emit stateChanged();
 }
 
-int HST_Host::addFileDocument()
-{
-    m_allDocuments.emplace_back(
-        new HST_Document(m_nextKey, nullptr, m_fileCount++, m_faults.get()));
-    m_documents.insert(m_nextKey, m_allDocuments.back().get());
-    emit stateChanged();
-    return m_nextKey++;
-}
-
 void HST_Host::updateUI(unsigned mask, bool flag)
 {
     hostCall("updateUI");
     m_recorder->record(QStringLiteral("updateUI"),
         { { QStringLiteral("mask"), double(mask) }, { QStringLiteral("flag"), flag } });
+    emit uiUpdateRequested();
 }
 
 QVariant& HST_Host::defaultVariant(QVariant& out, const QString& key)
@@ -292,7 +333,11 @@ QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessag
 void HST_Host::attachMediator(QWebView* view, JS_Mediator* mediator)
 {
     hostCall("attachMediator");
-    QObject* object = APP_mediatorObject(mediator);
+    publishMediator(view, APP_mediatorObject(mediator));
+}
+
+void HST_Host::publishMediator(QWebView* view, QObject* object)
+{
     if (!view || !object)
         return;
     // Through the meta object: the mediator's code lives in the plug-in, which the host
@@ -376,9 +421,27 @@ QStringList& HST_Host::fontList(QStringList& out)
     return out;
 }
 
+void HST_Host::showAbout()
+{
+    hostCall("showAbout");
+    showAboutBox();
+}
+
+void HST_Host::showAboutBox()
+{
+    runMessageBox(QStringLiteral("about"), QMessageBox::Information,
+        version() + QStringLiteral("\nThe reference host of the synccontrol plug-in."), {}, nullptr,
+        false);
+}
+
 QString HST_Host::translate(const QString& sourceText, int)
 {
     hostCall("translate");
+    return translatedText(sourceText);
+}
+
+QString HST_Host::translatedText(const QString& sourceText) const
+{
     if (!m_translator)
         return sourceText;
     const QString translated = m_translator->translate(translationContext, sourceText.toUtf8());
@@ -473,7 +536,7 @@ void HST_Host::beginModalDialog()
 QString& HST_Host::versionText(QString& out)
 {
     hostCall("versionText");
-    out = QStringLiteral("tarvix4host 1.0");
+    out = version();
     return out;
 }
 
@@ -499,100 +562,6 @@ void HST_Host::runWithBusyDialog(const QString& text, QFutureWatcher<void>* watc
     watcher->waitForFinished();
 }
 
-int HST_Host::documentKey(DOC_Interface* doc)
-{
-    hostCall("documentKey");
-    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
-        if (it.value() == doc)
-            return it.key();
-    }
-    return INVALID_DOCKEY;
-}
-
-DOC_Interface* HST_Host::document(int key, bool)
-{
-    hostCall("document");
-    return m_documents.value(key, nullptr);
-}
-
-void HST_Host::setCurrentDocument(int key, bool)
-{
-    hostCall("setCurrentDocument");
-    if (m_documents.contains(key))
-        m_currentKey = key;
-}
-
-void HST_Host::removeDocument(int key)
-{
-    hostCall("removeDocument");
-    closeDocument(key);
-}
-
-void HST_Host::closeDocument(int key)
-{
-    if (!m_documents.remove(key))
-        return;
-    if (m_currentKey == key)
-        m_currentKey = m_documents.isEmpty() ? INVALID_DOCKEY : m_documents.firstKey();
-    m_recorder->record(QStringLiteral("removeDocument"), { { QStringLiteral("key"), key } });
-    emit stateChanged();
-}
-
-void HST_Host::documentsChanged(bool refresh)
-{
-    hostCall("documentsChanged");
-    m_recorder->record(
-        QStringLiteral("documentsChanged"), { { QStringLiteral("refresh"), refresh } });
-    emit stateChanged();
-}
-
-QList<int>& HST_Host::documentKeysForList(QList<int>& out, int)
-{
-    hostCall("documentKeysForList");
-    out = m_documents.keys();
-    return out;
-}
-
-QList<int>& HST_Host::openedDocumentKeys(QList<int>& out, bool, bool)
-{
-    hostCall("openedDocumentKeys");
-    out = m_documents.keys();
-    return out;
-}
-
-QList<int>& HST_Host::liveDocumentKeys(QList<int>& out, int)
-{
-    hostCall("liveDocumentKeys");
-    out.clear();
-    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
-        if (it.value()->cameraState())
-            out.append(it.key());
-    }
-    return out;
-}
-
-QList<int> HST_Host::documentKeys(int)
-{
-    hostCall("documentKeys");
-    return m_documents.keys();
-}
-
-QList<int>& HST_Host::orderedKeys(QList<int>& out)
-{
-    hostCall("orderedKeys");
-    out = m_documents.keys();
-    return out;
-}
-
-QList<DOC_Interface*>& HST_Host::allDocuments(QList<DOC_Interface*>& out)
-{
-    hostCall("allDocuments");
-    out.clear();
-    for (HST_Document* document : qAsConst(m_documents))
-        out.append(document);
-    return out;
-}
-
 void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor,
     bool external, bool generatorControl, int syncIn, int frequency, int polarity)
 {
@@ -602,13 +571,13 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
     QList<HST_CameraState*> states;
     QString refusal;
     for (DOC_Camera* camera : cameras) {
-        HST_CameraState* state = m_cameraByPointer.value(camera, nullptr);
+        HST_CameraState* state = cameraOf(camera);
         addresses.append(state ? QJsonValue(state->spec.ip) : QJsonValue());
         if (!state)
             refusal = QStringLiteral("A camera of the request is not connected to the host.");
         states.append(state);
     }
-    HST_CameraState* masterState = m_cameraByPointer.value(master, nullptr);
+    HST_CameraState* masterState = cameraOf(master);
     if (master && !masterState)
         refusal = QStringLiteral("The master camera is not connected to the host.");
     if (!external && !master)
@@ -650,7 +619,7 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
 bool HST_Host::isSyncRequired()
 {
     hostCall("isSyncRequired");
-    for (const auto& camera : m_cameras) {
+    for (const HST_CameraState* camera : cameras()) {
         if (camera->syncRequired.load())
             return true;
     }

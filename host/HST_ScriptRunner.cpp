@@ -8,9 +8,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QDockWidget>
+#include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -79,10 +85,16 @@ bool HST_ScriptRunner::parse(
     }
     const QJsonArray list = document.array();
     for (int i = 0; i < list.size(); ++i) {
-        const QJsonObject step = list.at(i).toObject();
+        QJsonObject step = list.at(i).toObject();
         const QString where = QStringLiteral("%1: step %2").arg(source).arg(i + 1);
+        const QJsonValue window = step.take(QLatin1String("window"));
         if (!list.at(i).isObject() || step.size() != 1) {
-            error = where + QStringLiteral(": expected an object with one key");
+            error = where
+                + QStringLiteral(": expected an object with one key and an optional \"window\"");
+            return false;
+        }
+        if (!window.isUndefined() && (!window.isString() || window.toString().isEmpty())) {
+            error = where + QStringLiteral(": \"window\" must name a window");
             return false;
         }
         const QString kind = step.begin().key();
@@ -90,8 +102,10 @@ bool HST_ScriptRunner::parse(
         bool ok = false;
         if (kind == QLatin1String("click") || kind == QLatin1String("js")
             || kind == QLatin1String("screenshot") || kind == QLatin1String("press")
-            || kind == QLatin1String("open"))
+            || kind == QLatin1String("open") || kind == QLatin1String("menu"))
             ok = value.isString() && !value.toString().isEmpty();
+        else if (kind == QLatin1String("file"))
+            ok = value.isString();
         else if (kind == QLatin1String("visit"))
             ok = value.isArray() && value.toArray().size() == 2 && value.toArray().at(0).isString()
                 && !value.toArray().at(0).toString().isEmpty()
@@ -190,10 +204,23 @@ void HST_ScriptRunner::poll()
         fail(QStringLiteral("found nothing to act on within %1 s").arg(m_timeoutMs / 1000.0));
 }
 
-HST_ScriptRunner::Result HST_ScriptRunner::act(const QJsonObject& step, QWidget* window)
+HST_ScriptRunner::Result HST_ScriptRunner::act(QJsonObject step, QWidget* window)
 {
+    const QJsonValue named = step.take(QLatin1String("window"));
+    if (!named.isUndefined()) {
+        // A non-modal window or dock panel, out of reach while a modal window is up.
+        if (window)
+            return Result::Waiting;
+        window = findNamedWindow(named.toString());
+        if (!window)
+            return Result::Waiting;
+    }
     const QString kind = step.begin().key();
     const QJsonValue value = step.begin().value();
+    if (kind == QLatin1String("menu"))
+        return chooseMenu(value.toString(), window);
+    if (kind == QLatin1String("file"))
+        return answerFileDialog(value.toString(), window);
     if (kind == QLatin1String("screenshot"))
         return screenshot(value.toString(), window);
     if (kind == QLatin1String("press"))
@@ -217,6 +244,78 @@ template <typename Action> void HST_ScriptRunner::postAction(Action action)
 {
     emit acting(m_index + 1);
     post(this, action);
+}
+
+QWidget* HST_ScriptRunner::findNamedWindow(const QString& name) const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* top : windows) {
+        if (!top->isVisible())
+            continue;
+        if (top->objectName() == name || top->windowTitle() == name)
+            return top;
+        for (QWidget* child : top->findChildren<QWidget*>()) {
+            const bool titled = child->isWindow() || qobject_cast<QDockWidget*>(child);
+            if (child->isVisible()
+                && (child->objectName() == name || (titled && child->windowTitle() == name)))
+                return child;
+        }
+    }
+    return nullptr;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::chooseMenu(const QString& path, QWidget* window)
+{
+    // The main window's menus: out of reach while a modal window is up.
+    auto* mainWindow = qobject_cast<QMainWindow*>(m_idleWindow.data());
+    if (window || !mainWindow)
+        return Result::Waiting;
+    const QStringList titles = path.split(QLatin1Char('/'));
+    QList<QAction*> actions = mainWindow->menuBar()->actions();
+    QAction* found = nullptr;
+    for (const QString& title : titles) {
+        found = nullptr;
+        for (QAction* action : qAsConst(actions)) {
+            if (action->text().remove(QLatin1Char('&')) == title) {
+                found = action;
+                break;
+            }
+        }
+        if (!found)
+            return Result::Waiting;
+        actions = found->menu() ? found->menu()->actions() : QList<QAction*>();
+    }
+    if (!found->isEnabled() || found->menu())
+        return Result::Waiting;
+    QPointer<QAction> guarded(found);
+    postAction([guarded] {
+        if (guarded)
+            guarded->trigger();
+    });
+    return Result::Done;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::answerFileDialog(const QString& path, QWidget* window)
+{
+    QPointer<QFileDialog> dialog(qobject_cast<QFileDialog*>(window));
+    if (!dialog)
+        return Result::Waiting;
+    postAction([dialog, path] {
+        if (!dialog)
+            return;
+        if (path.isEmpty()) {
+            dialog->reject();
+            return;
+        }
+        // Typed, as a user would: selectFile leaves a focused name field as it is.
+        if (auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+            name->setText(path);
+        else
+            dialog->selectFile(path);
+        // QFileDialog's own accept, which checks the name as the dialog's button does.
+        static_cast<QDialog*>(dialog.data())->accept();
+    });
+    return Result::Done;
 }
 
 HST_ScriptRunner::Result HST_ScriptRunner::click(const QString& target, QWidget* window)
@@ -372,6 +471,20 @@ HST_ScriptRunner::Result HST_ScriptRunner::set(
                 combo->setCurrentIndex(index);
                 emit combo->activated(index);
             }
+        });
+        return Result::Done;
+    }
+    if (auto* list = qobject_cast<QListWidget*>(widget)) {
+        int row = value.isDouble() ? value.toInt() : -1;
+        for (int i = 0; i < list->count() && row < 0; ++i) {
+            if (list->item(i)->text() == value.toString())
+                row = i;
+        }
+        if (row < 0 || row >= list->count())
+            return Result::Waiting;
+        postAction([guarded, list, row] {
+            if (guarded)
+                list->setCurrentRow(row);
         });
         return Result::Done;
     }
