@@ -124,8 +124,14 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
         setTypeRecords(part.syncCapableTypes);
     if (has("applySync"))
         m_scenario.applySync = part.applySync;
-    if (has("status"))
+    if (has("status")) {
         applyStatus(part.status);
+        if (part.status.contains(STATUS_IS_FULL_SCREEN) && m_mainWindow) {
+            const bool on = part.status.value(STATUS_IS_FULL_SCREEN);
+            m_mainWindow->setWindowState(on ? m_mainWindow->windowState() | Qt::WindowFullScreen
+                                            : m_mainWindow->windowState() & ~Qt::WindowFullScreen);
+        }
+    }
     if (has("recordingStatus"))
         setRecordingStatus(part.recordingStatus);
     if (has("hubs")) {

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSignalBlocker>
 #include <QTableWidget>
 #include <QToolBar>
 #include <QUndoStack>
@@ -243,6 +244,10 @@ bool HST_MainWindow::askEnabled(const QString& name, PLG_Interface* plugin)
 void HST_MainWindow::refreshState()
 {
     m_modeBox->setCurrentIndex(m_host->mode());
+    if (auto* fullScreen = findChild<QAction*>(QStringLiteral("host_fullScreen"))) {
+        const QSignalBlocker quiet(fullScreen);
+        fullScreen->setChecked(isFullScreen());
+    }
     fillDocuments();
     for (auto it = m_plugins.begin(); it != m_plugins.end(); ++it) {
         m_actions.value(it.key())->setEnabled(askEnabled(it.key(), it.value()));
