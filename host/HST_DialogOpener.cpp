@@ -96,6 +96,7 @@ QDockWidget* HST_DialogOpener::makeDock(const Page& page)
     }
     dock->setWidget(content);
     m_window->addDockWidget(Qt::RightDockWidgetArea, dock);
+    m_window->resizeDocks({ dock }, { 440 }, Qt::Horizontal);
     return dock;
 }
 

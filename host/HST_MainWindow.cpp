@@ -77,6 +77,7 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     addDockWidget(Qt::BottomDockWidgetArea, documents);
     buildMenus();
     resize(1100, 720);
+    resizeDocks({ documents }, { 150 }, Qt::Vertical);
     // The host starts full screen when its scenario says so.
     if (host->status(STATUS_IS_FULL_SCREEN))
         setWindowState(windowState() | Qt::WindowFullScreen);

@@ -23,7 +23,7 @@ var hoststatusPage = (function () {
                 + '<td>' + hostpage.escape(device.devicename) + '</td>'
                 + '<td>' + hostpage.escape(device.ipaddress) + '</td>'
                 + '<td>' + hostpage.escape(device.headno) + '</td>'
-                + '<td>' + marks + '</td></tr>');
+                + '<td class="flags">' + marks + '</td></tr>');
         }
         $('#devices tbody').html(rows.join(''));
         $('#connectedOnly').prop('checked', m.getConnectedCameraShowing());
