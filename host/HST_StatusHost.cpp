@@ -2,6 +2,7 @@
 
 #include "host/HST_Recorder.h"
 
+#include <QJsonObject>
 #include <QUndoCommand>
 
 namespace {
@@ -10,31 +11,12 @@ namespace {
 class HST_UndoStep : public QUndoCommand
 {
 public:
-    HST_UndoStep(const QString& text, HST_Recorder* recorder)
+    explicit HST_UndoStep(const QString& text)
         : QUndoCommand(text)
-        , m_recorder(recorder)
     {
     }
-    void undo() override { record("undo"); }
-    void redo() override
-    {
-        // The push runs redo once; that is the step being done, not redone.
-        if (m_pushed)
-            record("redo");
-        m_pushed = true;
-    }
-
-private:
-    void record(const char* op)
-    {
-        if (m_recorder)
-            m_recorder->record(QStringLiteral("undoStack"),
-                { { QStringLiteral("op"), QLatin1String(op) },
-                    { QStringLiteral("text"), text() } });
-    }
-
-    HST_Recorder* m_recorder;
-    bool m_pushed = false;
+    void undo() override { }
+    void redo() override { }
 };
 
 } // namespace
@@ -56,9 +38,9 @@ void HST_StatusHost::applyStatus(const QMap<QString, bool>& status)
         const bool undoable = !m_status.value(STATUS_IS_NOT_UNDO, true);
         const bool redoable = !m_status.value(STATUS_IS_NOT_REDO, true);
         if (undoable)
-            m_undoStack.push(new HST_UndoStep(QStringLiteral("Earlier step"), m_stateRecorder));
+            m_undoStack.push(new HST_UndoStep(QStringLiteral("Earlier step")));
         if (redoable) {
-            m_undoStack.push(new HST_UndoStep(QStringLiteral("Undone step"), m_stateRecorder));
+            m_undoStack.push(new HST_UndoStep(QStringLiteral("Undone step")));
             m_undoStack.undo();
         }
     }
@@ -87,6 +69,13 @@ void HST_StatusHost::setModelessTextFocus(bool focus)
 {
     hostCall("setModelessTextFocus");
     m_status.insert(STATUS_IS_MODALESS_DIALOG_TEXT_FOCUSSING, focus);
+    record("textFocus", { { QStringLiteral("focus"), focus } });
+}
+
+void HST_StatusHost::record(const char* call, const QJsonObject& fields)
+{
+    if (m_stateRecorder)
+        m_stateRecorder->record(QLatin1String(call), fields);
 }
 
 QString& HST_StatusHost::activeToolName(QString& out)
@@ -101,8 +90,7 @@ void HST_StatusHost::setActiveTool(const QString& name)
     if (m_activeTool == name)
         return;
     m_activeTool = name;
-    if (m_stateRecorder)
-        m_stateRecorder->record(QStringLiteral("activeTool"), { { QStringLiteral("name"), name } });
+    record("activeTool", { { QStringLiteral("name"), name } });
     hostStateChanged();
 }
 
@@ -127,6 +115,9 @@ void HST_StatusHost::undo()
 {
     hostCall("undo");
     if (m_undoStack.canUndo()) {
+        record("undoStack",
+            { { QStringLiteral("op"), "undo" },
+                { QStringLiteral("text"), m_undoStack.undoText() } });
         m_undoStack.undo();
         hostStateChanged();
     }
@@ -147,6 +138,8 @@ bool HST_StatusHost::canRedo()
 void HST_StatusHost::beginMacro(const QString& text)
 {
     hostCall("beginMacro");
+    record(
+        "undoStack", { { QStringLiteral("op"), "beginMacro" }, { QStringLiteral("text"), text } });
     m_undoStack.beginMacro(text);
     ++m_macroDepth;
 }
@@ -158,6 +151,7 @@ void HST_StatusHost::endMacro()
     if (m_macroDepth == 0)
         return;
     --m_macroDepth;
+    record("undoStack", { { QStringLiteral("op"), "endMacro" } });
     m_undoStack.endMacro();
     hostStateChanged();
 }

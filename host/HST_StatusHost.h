@@ -3,6 +3,7 @@
 #include "host/HST_NeutralHost.h"
 #include "plugin/SharedKeys.h"
 
+#include <QJsonObject>
 #include <QMap>
 #include <QString>
 #include <QUndoStack>
@@ -155,6 +156,7 @@ protected:
 
 private:
     bool query(const char* operation, const QString& name);
+    void record(const char* call, const QJsonObject& fields);
     void setActiveTool(const QString& name);
 
     HST_Recorder* m_stateRecorder;
