@@ -2,21 +2,20 @@
 
 #include "host/HST_Json.h"
 #include "host/HST_Recorder.h"
+#include "host/HST_ScriptTargets.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
-#include <QDockWidget>
 #include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -43,18 +42,6 @@ bool isBusyDialog(QWidget* widget)
 template <typename Action> void post(QObject* target, Action action)
 {
     QMetaObject::invokeMethod(target, action, Qt::QueuedConnection);
-}
-
-QAbstractButton* findButton(const QString& target, QWidget* window)
-{
-    const QList<QAbstractButton*> buttons = window->findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons) {
-        const bool matches
-            = button->objectName() == target || button->text().remove(QLatin1Char('&')) == target;
-        if (matches && button->isVisible() && button->isEnabled())
-            return button;
-    }
-    return nullptr;
 }
 
 // A window the script acts in: not a message box, not a busy dialog.
@@ -211,7 +198,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::act(QJsonObject step, QWidget* window
         // A non-modal window or dock panel, out of reach while a modal window is up.
         if (window)
             return Result::Waiting;
-        window = findNamedWindow(named.toString());
+        window = HST_ScriptTargets::namedWindow(named.toString());
         if (!window)
             return Result::Waiting;
     }
@@ -246,46 +233,14 @@ template <typename Action> void HST_ScriptRunner::postAction(Action action)
     post(this, action);
 }
 
-QWidget* HST_ScriptRunner::findNamedWindow(const QString& name) const
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget* top : windows) {
-        if (!top->isVisible())
-            continue;
-        if (top->objectName() == name || top->windowTitle() == name)
-            return top;
-        for (QWidget* child : top->findChildren<QWidget*>()) {
-            const bool titled = child->isWindow() || qobject_cast<QDockWidget*>(child);
-            if (child->isVisible()
-                && (child->objectName() == name || (titled && child->windowTitle() == name)))
-                return child;
-        }
-    }
-    return nullptr;
-}
-
 HST_ScriptRunner::Result HST_ScriptRunner::chooseMenu(const QString& path, QWidget* window)
 {
     // The main window's menus: out of reach while a modal window is up.
     auto* mainWindow = qobject_cast<QMainWindow*>(m_idleWindow.data());
     if (window || !mainWindow)
         return Result::Waiting;
-    const QStringList titles = path.split(QLatin1Char('/'));
-    QList<QAction*> actions = mainWindow->menuBar()->actions();
-    QAction* found = nullptr;
-    for (const QString& title : titles) {
-        found = nullptr;
-        for (QAction* action : qAsConst(actions)) {
-            if (action->text().remove(QLatin1Char('&')) == title) {
-                found = action;
-                break;
-            }
-        }
-        if (!found)
-            return Result::Waiting;
-        actions = found->menu() ? found->menu()->actions() : QList<QAction*>();
-    }
-    if (!found->isEnabled() || found->menu())
+    QAction* found = HST_ScriptTargets::menuEntry(mainWindow, path);
+    if (!found || !found->isEnabled())
         return Result::Waiting;
     QPointer<QAction> guarded(found);
     postAction([guarded] {
@@ -320,7 +275,7 @@ HST_ScriptRunner::Result HST_ScriptRunner::answerFileDialog(const QString& path,
 
 HST_ScriptRunner::Result HST_ScriptRunner::click(const QString& target, QWidget* window)
 {
-    QPointer<QAbstractButton> guarded(findButton(target, window));
+    QPointer<QAbstractButton> guarded(HST_ScriptTargets::button(target, window));
     if (!guarded)
         return Result::Waiting;
     postAction([guarded] {
@@ -370,7 +325,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::visit(const QJsonArray& targets, QWid
     if (!m_visitReturned) {
         if (!isDialogWindow(window))
             return Result::Waiting;
-        QPointer<QAbstractButton> opener(findButton(targets.at(0).toString(), window));
+        QPointer<QAbstractButton> opener(
+            HST_ScriptTargets::button(targets.at(0).toString(), window));
         if (!opener)
             return Result::Waiting;
         m_visitWindow = window;
@@ -393,7 +349,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::visit(const QJsonArray& targets, QWid
         return Result::Waiting;
     QPointer<QWidget> opened(window);
     if (targets.at(1).isString()) {
-        QPointer<QAbstractButton> closer(findButton(targets.at(1).toString(), window));
+        QPointer<QAbstractButton> closer(
+            HST_ScriptTargets::button(targets.at(1).toString(), window));
         if (!closer)
             return Result::Waiting;
         postAction([closer] {

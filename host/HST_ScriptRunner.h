@@ -78,8 +78,6 @@ private slots:
 private:
     enum class Result { Done, Waiting };
     Result act(QJsonObject step, QWidget* window);
-    // A visible top-level window or dock panel by object name or title.
-    QWidget* findNamedWindow(const QString& name) const;
     Result chooseMenu(const QString& path, QWidget* window);
     Result answerFileDialog(const QString& path, QWidget* window);
     Result click(const QString& target, QWidget* window);
