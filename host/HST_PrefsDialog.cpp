@@ -251,8 +251,10 @@ int HST_PrefsDialog::run()
     m_running = true;
     const int result = exec();
     m_running = false;
-    if (result == QDialog::Accepted)
+    if (result == QDialog::Accepted) {
         save();
+        emit applied();
+    }
     if (m_recorder)
         m_recorder->record(QStringLiteral("prefsDialog"),
             { { QStringLiteral("page"), currentPage() }, { QStringLiteral("result"), result } });

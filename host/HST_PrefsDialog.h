@@ -36,6 +36,10 @@ public:
     QString currentPage() const;
     static QString ethernetPage() { return QStringLiteral("s_ethernet"); }
 
+signals:
+    // OK wrote the preferences: whatever shows them is refreshed.
+    void applied();
+
 private:
     struct Field;
     void buildPages();
