@@ -200,10 +200,12 @@ bool HST_Host::isOtherPluginOpen()
 
 HST_PrefsDialog* HST_Host::preferencesDialog()
 {
-    if (!m_prefsDialog)
+    if (!m_prefsDialog) {
         m_prefsDialog = new HST_PrefsDialog(
             m_prefs.get(), m_recorder, [this](const QString& text) { return translatedText(text); },
             m_mainWindow);
+        connect(m_prefsDialog, &HST_PrefsDialog::applied, this, &HST_Host::uiUpdateRequested);
+    }
     return m_prefsDialog;
 }
 
