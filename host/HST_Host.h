@@ -4,24 +4,19 @@
 #include "host/HST_Scenario.h"
 #include "plugin/APP_CameraTypeRecord.h"
 
-#include <QMap>
 #include <QMessageBox>
-#include <QMutex>
 #include <QObject>
 #include <QPointer>
 
 #include <memory>
 #include <vector>
 
-class HST_Document;
 class HST_Faults;
 class HST_HubList;
 class HST_Preferences;
 class HST_PrefsDialog;
 class HST_Recorder;
-class QMdiArea;
 class QTranslator;
-struct HST_CameraState;
 
 // The reference host: APP_Host over the simulated cameras, documents and hubs of a scenario.
 // Messages are real message boxes, preferences an INI file, and every call the plug-in makes
