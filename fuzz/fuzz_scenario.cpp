@@ -3,6 +3,7 @@
 // loader promises (unique addresses, counts in range).
 
 #include "host/HST_Scenario.h"
+#include "plugin/SharedKeys.h"
 
 #include <QByteArray>
 #include <QSet>
@@ -10,12 +11,14 @@
 
 #include "FuzzCheck.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    const QByteArray json(reinterpret_cast<const char *>(data), int(size));
+    const QByteArray json(reinterpret_cast<const char*>(data), int(size));
     const QString source = QStringLiteral("fuzz.json");
     HST_Scenario scenario;
     QString error;
@@ -30,17 +33,26 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     check(scenario.files >= 0 && scenario.files <= 64);
     check(scenario.fileDocuments.size() == scenario.files);
     QSet<QString> cameraIps;
-    for (const HST_CameraSpec &camera : scenario.cameras) {
+    for (const HST_CameraSpec& camera : scenario.cameras) {
         check(camera.documents >= 0 && camera.documents <= 64);
+        check(camera.bitDepth >= 1 && camera.bitDepth <= 16);
+        check(camera.realBitDepth >= 1 && camera.realBitDepth <= 16);
         check(!cameraIps.contains(camera.ip));
         cameraIps.insert(camera.ip);
     }
     QSet<QString> hubIps;
-    for (const HST_HubSpec &hub : scenario.hubs) {
+    for (const HST_HubSpec& hub : scenario.hubs) {
         check(!hubIps.contains(hub.ip));
         hubIps.insert(hub.ip);
         check(hub.connected == (hub.connects == HST_HubConnects::AtStart));
     }
     check(scenario.applySync.delayMs >= 0 && scenario.applySync.delayMs <= 600000);
+    check(scenario.recordingStatus >= 0 && scenario.recordingStatus <= 4);
+    // Only status names, and none the host derives from its own state.
+    for (auto it = scenario.status.begin(); it != scenario.status.end(); ++it) {
+        check(std::find(std::begin(STATUS_NAMES), std::end(STATUS_NAMES), it.key())
+            != std::end(STATUS_NAMES));
+        check(it.key() != STATUS_IS_LIVE_MODE && it.key() != STATUS_IS_NOT_RECORDING);
+    }
     return 0;
 }

@@ -147,6 +147,10 @@ def scenario():
                      b' "generator": {"listen": "127.0.0.1", "portmapperPort": 1111, "silentAt": "device_read",'
                      b' "garbage": false, "maxLinks": 2}}',
         "refused.json": b'{"cameras": [{"ip": "1.2.3.4"}, {"ip": "1.2.3.4"}], "mode": 2.5}',
+        "status.json": b'{"status": {"IsRecording": true, "IsNotUndo": false, "IsFullScreen": true},'
+                       b' "recordingStatus": 4, "exportSupportFile": {"result": "error"},'
+                       b' "cameras": [{"connected": false, "functions": [176, 117], "bitDepth": 12,'
+                       b' "realBitDepth": 10, "deviceName": "", "mobile": true}]}',
     }
     for name, data in seeds.items():
         write("fuzz_scenario", name, data)

@@ -1,5 +1,6 @@
 #include "host/HST_Application.h"
 
+#include "host/HST_DialogOpener.h"
 #include "host/HST_Faults.h"
 #include "host/HST_GeneratorSimulator.h"
 #include "host/HST_Host.h"
@@ -69,6 +70,10 @@ bool HST_Application::parseArguments(
     const QCommandLineOption press(QStringLiteral("press"),
         QStringLiteral("Press the button of this plug-in once the window shows."),
         QStringLiteral("NAME"));
+    const QCommandLineOption open(QStringLiteral("open"),
+        QStringLiteral("Open this dialog or panel of the plug-in file once the window shows; "
+                       "ARG is what the dialog needs beyond the documents."),
+        QStringLiteral("PAGE[:ARG]"));
     const QCommandLineOption script(QStringLiteral("script"),
         QStringLiteral("Steps to run against modal windows (JSON)."), QStringLiteral("FILE"));
     const QCommandLineOption answer(QStringLiteral("answer"),
@@ -81,7 +86,7 @@ bool HST_Application::parseArguments(
         QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
     const QCommandLineOption autoAnswer(QStringLiteral("auto-answer"),
         QStringLiteral("Answer every message box as it shows: OK, else No."));
-    parser.addOptions({ scenario, plugin, prefs, translations, press, script, answer, record,
+    parser.addOptions({ scenario, plugin, prefs, translations, press, open, script, answer, record,
         screenshot, quit, autoAnswer });
     if (!parser.parse(arguments)) {
         error = parser.errorText();
@@ -101,6 +106,7 @@ bool HST_Application::parseArguments(
     options.prefsFile = parser.value(prefs);
     options.translationsFile = parser.value(translations);
     options.press = parser.value(press);
+    options.open = parser.value(open);
     options.scriptFile = parser.value(script);
     for (const QString& value : parser.values(answer))
         options.answers += value.split(QLatin1Char(','), Qt::SkipEmptyParts);
@@ -133,9 +139,9 @@ HST_Application::~HST_Application()
 
 bool HST_Application::isInteractive() const
 {
-    return m_options.press.isEmpty() && m_options.scriptFile.isEmpty() && m_options.steps.isEmpty()
-        && m_options.answers.isEmpty() && m_options.recordFile.isEmpty() && !m_options.quit
-        && !m_options.autoAnswer;
+    return m_options.press.isEmpty() && m_options.open.isEmpty() && m_options.scriptFile.isEmpty()
+        && m_options.steps.isEmpty() && m_options.answers.isEmpty()
+        && m_options.recordFile.isEmpty() && !m_options.quit && !m_options.autoAnswer;
 }
 
 PLG_Interface* HST_Application::plugin() const
@@ -158,6 +164,8 @@ int HST_Application::refuse(int code, const QString& message)
 
 int HST_Application::start()
 {
+    // Qt's own file dialogs, which a script's "file" step can answer.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     m_recorder.reset(new HST_Recorder(m_options.recordFile));
     if (!m_recorder->isOpen())
         return refuse(BadInput, m_recorder->errorString());
@@ -261,8 +269,11 @@ int HST_Application::run()
     if (code != Success && !(code == PluginFailed && isInteractive() && m_window))
         return code;
     m_window->show();
-    if (isInteractive())
+    if (isInteractive()) {
         connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { finish(m_exitCode); });
+        // A user sees the host's state at once; automated runs open what they ask for.
+        m_window->opener()->showPanel(QStringLiteral("hoststatus"));
+    }
     QTimer::singleShot(0, this, &HST_Application::afterShow);
     m_loop.exec();
     return m_exitCode;
@@ -282,7 +293,25 @@ void HST_Application::afterShow()
         m_window->press(m_options.press);
         m_pressDone = true;
     }
+    if (!m_options.open.isEmpty() && m_started)
+        openPage();
     checkFinished();
+}
+
+void HST_Application::openPage()
+{
+    const int colon = m_options.open.indexOf(QLatin1Char(':'));
+    const QString page = colon < 0 ? m_options.open : m_options.open.left(colon);
+    const QString arg = colon < 0 ? QString() : m_options.open.mid(colon + 1);
+    if (!m_window->opener()->hasPage(page)) {
+        refuse(ScriptFailed,
+            QStringLiteral("--open: the plug-in has no dialog or panel named \"%1\"").arg(page));
+        finish(ScriptFailed);
+        return;
+    }
+    m_pressDone = false;
+    m_window->opener()->open(page, arg);
+    m_pressDone = true;
 }
 
 void HST_Application::checkFinished()

@@ -26,6 +26,8 @@ struct HST_Options
     QString prefsFile;
     QString translationsFile;
     QString press;
+    // --open PAGE[:ARG]: a registered dialog or panel of the plug-in file, once the window shows.
+    QString open;
     QString scriptFile;
     // Steps given directly; run after those of scriptFile and before the answers.
     QJsonArray steps;
@@ -35,8 +37,6 @@ struct HST_Options
     bool quit = false;
     // Answer every message box at once (HST_ScriptRunner::setAutoAnswer).
     bool autoAnswer = false;
-    // Run the plug-in's generator connect dialog once the window shows, as the sync dialog's
-    // button will (a test entry of the plug-in file).
     // --help: parseArguments leaves the help text in its error and gives true.
     bool help = false;
     int stepTimeoutMs = 10000;
@@ -52,7 +52,7 @@ public:
         Success = 0,
         BadInput = 1, // command line, scenario, script, record or translation file
         PluginFailed = 2, // plug-in file missing, not loadable, or without its entry
-        ScriptFailed = 3, // a step found nothing to act on, or --press named no button
+        ScriptFailed = 3, // a step found nothing to act on, or --press or --open named nothing
     };
 
     // The plug-in file used when none is given.
@@ -83,6 +83,7 @@ public:
 
 private slots:
     void afterShow();
+    void openPage();
     void checkFinished();
 
 private:

@@ -20,6 +20,4 @@ struct HST_CameraState
     std::atomic<bool> recorded { false };
     std::atomic<bool> syncRequired { false };
     std::atomic<int> syncCount { 0 };
-    // A device added without connecting stays in the list, not connected.
-    bool connected = true;
 };

@@ -41,6 +41,7 @@ HST_CameraSpec HST_Devices::newDevice(
     checkFree(cameras, ip, nullptr);
     HST_CameraSpec spec;
     spec.name = name.trimmed().isEmpty() ? defaultName(int(cameras.size())) : name;
+    spec.deviceName = spec.name;
     spec.ip = ip;
     spec.dummy = isDummy;
     spec.model = QStringLiteral("HX-%1 type A model 1").arg(spec.type);
@@ -66,6 +67,9 @@ void HST_Devices::edit(const Cameras& cameras, HST_CameraState* camera, const QS
     checkAddress(subnetmask, false);
     checkAddress(gateway, true);
     checkFree(cameras, ip, camera);
+    // A device name that followed the camera's name goes on following it.
+    if (camera->spec.deviceName == camera->spec.name)
+        camera->spec.deviceName = name;
     camera->spec.name = name;
     camera->spec.ip = ip;
     camera->spec.subnetmask = subnetmask;

@@ -46,12 +46,6 @@ int HST_Document::headCount()
     return m_camera ? m_camera->spec.headCount : 1;
 }
 
-bool HST_Document::isConnected()
-{
-    hostCall("document.isConnected");
-    return m_camera && m_camera->connected;
-}
-
 const HST_PartitionSpec* HST_Document::partitionSpec(int partition) const
 {
     for (const HST_PartitionSpec& spec : m_spec.partitions) {
@@ -101,10 +95,54 @@ QString& HST_Document::filePath(QString& out)
     return out;
 }
 
+QString HST_Document::title() const
+{
+    return m_camera ? m_camera->spec.name : fileName();
+}
+
+bool HST_Document::isConnected()
+{
+    hostCall("document.isConnected");
+    return m_camera && m_camera->spec.connected;
+}
+
+bool HST_Document::isMobile()
+{
+    hostCall("document.isMobile");
+    return m_camera && m_camera->spec.mobile;
+}
+
+bool HST_Document::isRostraLocked()
+{
+    hostCall("document.isRostraLocked");
+    return m_camera && m_camera->spec.rostraLocked;
+}
+
+bool HST_Document::imageFormat(int& depth, int& realDepth)
+{
+    hostCall("document.imageFormat");
+    // A file's image has no format the simulation knows.
+    depth = m_camera ? m_camera->spec.bitDepth : 0;
+    realDepth = m_camera ? m_camera->spec.realBitDepth : 0;
+    return m_camera != nullptr;
+}
+
+int HST_Document::supportsWifiConnected()
+{
+    hostCall("document.supportsWifiConnected");
+    return m_camera && m_camera->spec.wifiConnected ? 1 : 0;
+}
+
+int HST_Document::supportsLinkSpeed()
+{
+    hostCall("document.supportsLinkSpeed");
+    return m_camera && m_camera->spec.linkSpeed ? 1 : 0;
+}
+
 QString& HST_Document::deviceName(QString& out)
 {
     hostCall("document.deviceName");
-    out = m_camera ? m_camera->spec.name : fileName();
+    out = m_camera ? m_camera->spec.deviceName : fileName();
     return out;
 }
 
@@ -194,7 +232,7 @@ int HST_Document::triggerMode()
 bool HST_Document::isFunctionSupported(int functionId, bool)
 {
     hostCall("document.isFunctionSupported");
-    // 116: recorded data must be erased before a sync.
+    // 116: recorded data must be erased before a sync; the others as the camera lists them.
     if (!m_camera)
         return false;
     return functionId == 116 ? m_camera->spec.needsErase

@@ -43,6 +43,11 @@ public:
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
+    // What the host's window shows for it: the camera's name, or the file's.
+    QString title() const;
+    // The host's selection; not operations of the plug-in's, so neither recorded nor faulted.
+    bool selected() const { return m_selected; }
+    void setSelected(bool selected) { m_selected = selected; }
 
     // DOC_Interface
     DOC_Camera* asCamera() override;
@@ -53,12 +58,12 @@ public:
     bool isSelected() override
     {
         hostCall("document.isSelected");
-        return false;
+        return m_selected;
     }
     bool isSelectedMulti() override
     {
         hostCall("document.isSelectedMulti");
-        return false;
+        return m_selected;
     }
     bool holdsCameraMemory() override
     {
@@ -68,14 +73,11 @@ public:
     QString& filePath(QString& out) override;
     QString& deviceName(QString& out) override;
     QString& baseName(QString& out) override;
-    bool isMobile() override
-    {
-        hostCall("document.isMobile");
-        return false;
-    }
+    bool isMobile() override;
     QString& partitionName(QString& out, int partition) override;
     void refresh(bool) override { hostCall("document.refresh"); }
     QString& sortName(QString& out) override;
+    bool isRostraLocked() override;
 
     // DOC_Feed, DOC_Playback
     void restart(bool) override { hostCall("document.restart"); }
@@ -105,6 +107,7 @@ public:
         return out = m_comment;
     }
     void setComment(const QString& text) override;
+    bool imageFormat(int& depth, int& realDepth) override;
 
     // DOC_Camera
     QString ipAddress(bool current = true) override;
@@ -314,20 +317,12 @@ public:
     bool isDummy() override;
     bool hasRecordedData() override;
     void eraseRecordedData(int = 0) override;
-    int supportsWifiConnected() override
-    {
-        hostCall("document.supportsWifiConnected");
-        return 0;
-    }
+    int supportsWifiConnected() override;
     int etherType() override;
     void setEtherType(int type) override;
     void networkAddresses(QString& ip, QString& subnetmask, QString& gateway) override;
     quint64 serialNumber(bool device) override;
-    int supportsLinkSpeed() override
-    {
-        hostCall("document.supportsLinkSpeed");
-        return 0;
-    }
+    int supportsLinkSpeed() override;
     int dualSlopeShutter() override;
     int automaticExposureControl() override;
     int lowLightMode() override;
@@ -410,4 +405,5 @@ private:
     HST_DocumentSpec m_spec;
     QString m_comment;
     HST_CustomData m_customData;
+    bool m_selected = false;
 };

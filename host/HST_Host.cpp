@@ -3,22 +3,27 @@
 #include "host/HST_CameraState.h"
 #include "host/HST_Devices.h"
 #include "host/HST_Document.h"
+#include "host/HST_DocumentView.h"
 #include "host/HST_Faults.h"
 #include "host/HST_HubList.h"
 #include "host/HST_LinkCoreHub.h"
 #include "host/HST_Preferences.h"
+#include "host/HST_PrefsDialog.h"
 #include "host/HST_Recorder.h"
+#include "host/HST_SupportFile.h"
 #include "plugin/APP_MediatorObject.h"
 #include "util/APP_Exception.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QFutureWatcher>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMutexLocker>
 #include <QProgressDialog>
 #include <QThread>
@@ -70,6 +75,7 @@ static void initResources()
 HST_Host::HST_Host(
     const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
     : QObject(parent)
+    , HST_DocumentHost(recorder)
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
@@ -81,15 +87,17 @@ HST_Host::HST_Host(
           recorder, scenario.saveGroupDirectory, scenario.saveDirectory))
     , m_hubs(new HST_HubList(scenario.hubs, recorder, m_faults.get()))
 {
-    m_documentContext.faults = m_faults.get();
-    m_documentContext.recorder = recorder;
-    m_documentContext.prefs = m_prefs.get();
+    documentContext().prefs = m_prefs.get();
     initResources();
     m_scriptObject->setObjectName(QStringLiteral("app"));
     m_mainScriptObject->setObjectName(QStringLiteral("main"));
     for (auto it = scenario.prefs.begin(); it != scenario.prefs.end(); ++it)
         m_prefs->preset(it.key(), it.value());
     setTypeRecords(scenario.syncCapableTypes);
+    applyStatus(scenario.status);
+    setRecordingStatus(scenario.recordingStatus);
+    setDocumentFaults(m_faults.get());
+    setDeviceCount(scenario.deviceCount);
     addDocuments(scenario.cameras, scenario.fileDocuments);
 }
 
@@ -102,53 +110,10 @@ void HST_Host::setTypeRecords(const QList<int>& types)
     }
 }
 
-void HST_Host::addDocuments(
-    const QList<HST_CameraSpec>& cameras, const QList<HST_DocumentSpec>& files)
-{
-    for (const HST_CameraSpec& spec : cameras)
-        addCamera(spec);
-    for (const HST_DocumentSpec& file : files) {
-        m_allDocuments.emplace_back(
-            new HST_Document(m_nextKey, nullptr, m_fileCount++, &m_documentContext, file));
-        m_documents.insert(m_nextKey++, m_allDocuments.back().get());
-    }
-    countDevices();
-    if (!m_documents.isEmpty())
-        m_currentKey = m_documents.firstKey();
-}
-
-HST_CameraState* HST_Host::addCamera(const HST_CameraSpec& spec)
-{
-    m_cameras.emplace_back(new HST_CameraState);
-    HST_CameraState* camera = m_cameras.back().get();
-    camera->spec = spec;
-    camera->index = int(m_cameras.size()) - 1;
-    camera->recorder = m_recorder;
-    camera->recorded.store(camera->spec.recorded);
-    camera->syncRequired.store(camera->spec.syncRequired);
-    for (int d = 0; d < camera->spec.documents; ++d) {
-        m_allDocuments.emplace_back(
-            new HST_Document(m_nextKey, camera, d, &m_documentContext, spec.document));
-        HST_Document* document = m_allDocuments.back().get();
-        m_documents.insert(m_nextKey++, document);
-        if (!camera->primary) {
-            camera->primary = document;
-            m_cameraByPointer.insert(document, camera);
-        }
-    }
-    return camera;
-}
-
-void HST_Host::countDevices()
-{
-    m_documentContext.deviceCount
-        = m_scenario.deviceCount >= 0 ? m_scenario.deviceCount : int(m_cameras.size());
-}
-
 bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
 {
-    for (const char* fixed : { "visa", "generator", "faults", "versionText", "defaultCameraName",
-             "cameraNameList", "deviceCount", "saveRegistry" }) {
+    for (const char* fixed : { "visa", "generator", "faults", "exportSupportFile", "versionText",
+             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry" }) {
         if (world.contains(QLatin1String(fixed))) {
             error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
             return false;
@@ -165,6 +130,16 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
         setTypeRecords(part.syncCapableTypes);
     if (has("applySync"))
         m_scenario.applySync = part.applySync;
+    if (has("status")) {
+        applyStatus(part.status);
+        if (part.status.contains(STATUS_IS_FULL_SCREEN) && m_mainWindow) {
+            const bool on = part.status.value(STATUS_IS_FULL_SCREEN);
+            m_mainWindow->setWindowState(on ? m_mainWindow->windowState() | Qt::WindowFullScreen
+                                            : m_mainWindow->windowState() & ~Qt::WindowFullScreen);
+        }
+    }
+    if (has("recordingStatus"))
+        setRecordingStatus(part.recordingStatus);
     if (has("hubs")) {
         // A hub the plug-in still points to stays alive.
         m_retiredHubs.push_back(std::move(m_hubs));
@@ -178,15 +153,7 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
             m_scenario.files = part.files;
             m_scenario.fileDocuments = part.fileDocuments;
         }
-        // The documents and cameras of before stay alive, like a removed document.
-        for (auto& camera : m_cameras)
-            m_retiredCameras.push_back(std::move(camera));
-        m_cameras.clear();
-        m_cameraByPointer.clear();
-        m_documents.clear();
-        m_currentKey = INVALID_DOCKEY;
-        m_fileCount = 0;
-        addDocuments(m_scenario.cameras, m_scenario.fileDocuments);
+        replaceDocuments(m_scenario.cameras, m_scenario.fileDocuments);
     }
     m_recorder->record(QStringLiteral("world"),
         { { QStringLiteral("keys"), QJsonArray::fromStringList(world.keys()) } });
@@ -203,6 +170,7 @@ void HST_Host::hostCall(const char* operation)
 
 HST_Host::~HST_Host()
 {
+    delete m_prefsDialog.data();
     if (m_translator)
         QCoreApplication::removeTranslator(m_translator);
 }
@@ -227,6 +195,77 @@ void HST_Host::setMainWindow(QWidget* window)
     m_mainWindow = window;
 }
 
+void HST_Host::setPluginWindowOpen(bool open)
+{
+    m_pluginWindows += open ? 1 : -1;
+}
+
+bool HST_Host::isOtherPluginOpen()
+{
+    hostCall("isOtherPluginOpen");
+    return m_pluginWindows > 0;
+}
+
+HST_PrefsDialog* HST_Host::preferencesDialog()
+{
+    if (!m_prefsDialog) {
+        m_prefsDialog = new HST_PrefsDialog(
+            m_prefs.get(), m_recorder, [this](const QString& text) { return translatedText(text); },
+            m_mainWindow);
+        connect(m_prefsDialog, &HST_PrefsDialog::applied, this, &HST_Host::uiUpdateRequested);
+    }
+    return m_prefsDialog;
+}
+
+APP_PrefsDialog* HST_Host::prefsDialog()
+{
+    hostCall("prefsDialog");
+    return preferencesDialog();
+}
+
+bool HST_Host::isPrefDialogOpening()
+{
+    hostCall("isPrefDialogOpening");
+    return m_prefsDialog && m_prefsDialog->isRunning();
+}
+
+void HST_Host::openEthernetSettings()
+{
+    hostCall("openEthernetSettings");
+    HST_PrefsDialog* dialog = preferencesDialog();
+    dialog->selectPage(translatedText(HST_PrefsDialog::ethernetPage()));
+    dialog->run();
+}
+
+bool HST_Host::exportSupportFile(const QString& zipPath)
+{
+    hostCall("exportSupportFile");
+    // Runs on a pool thread: the pictures and the host's state are taken on the GUI thread,
+    // which waits in the busy dialog meanwhile.
+    HST_SupportFile::Sources sources;
+    HST_Outcome outcome;
+    onGuiThread(this, [&] {
+        sources = HST_SupportFile::collect(*this);
+        outcome = m_scenario.exportSupportFile;
+    });
+    if (outcome.delayMs > 0)
+        QThread::msleep(ulong(outcome.delayMs));
+    QStringList entries;
+    QString error = outcome.ok ? QString() : outcome.message;
+    const bool written = outcome.ok && HST_SupportFile::write(zipPath, sources, entries, error);
+    m_recorder->record(QStringLiteral("exportSupportFile"),
+        { { QStringLiteral("path"), zipPath }, { QStringLiteral("result"), written },
+            { QStringLiteral("entries"), QJsonArray::fromStringList(entries) },
+            { QStringLiteral("error"), error } });
+    return written;
+}
+
+void HST_Host::pauseLive()
+{
+    hostCall("pauseLive");
+    m_recorder->record(QStringLiteral("pauseLive"));
+}
+
 void HST_Host::setMode(int mode)
 {
     if (mode == m_mode)
@@ -236,21 +275,12 @@ void HST_Host::setMode(int mode)
     emit stateChanged();
 }
 
-int HST_Host::addFileDocument()
-{
-    const int index = m_fileCount++;
-    m_allDocuments.emplace_back(new HST_Document(
-        m_nextKey, nullptr, index, &m_documentContext, HST_Scenario::fileDocument(index)));
-    m_documents.insert(m_nextKey, m_allDocuments.back().get());
-    emit stateChanged();
-    return m_nextKey++;
-}
-
 void HST_Host::updateUI(unsigned mask, bool flag)
 {
     hostCall("updateUI");
     m_recorder->record(QStringLiteral("updateUI"),
         { { QStringLiteral("mask"), double(mask) }, { QStringLiteral("flag"), flag } });
+    emit uiUpdateRequested();
 }
 
 QVariant& HST_Host::defaultVariant(QVariant& out, const QString& key)
@@ -319,7 +349,11 @@ QMessageBox::StandardButton HST_Host::runMessageBox(const QString& kind, QMessag
 void HST_Host::attachMediator(QWebView* view, JS_Mediator* mediator)
 {
     hostCall("attachMediator");
-    QObject* object = APP_mediatorObject(mediator);
+    publishMediator(view, APP_mediatorObject(mediator));
+}
+
+void HST_Host::publishMediator(QWebView* view, QObject* object)
+{
     if (!view || !object)
         return;
     // Through the meta object: the mediator's code lives in the plug-in, which the host
@@ -403,9 +437,27 @@ QStringList& HST_Host::fontList(QStringList& out)
     return out;
 }
 
+void HST_Host::showAbout()
+{
+    hostCall("showAbout");
+    showAboutBox();
+}
+
+void HST_Host::showAboutBox()
+{
+    runMessageBox(QStringLiteral("about"), QMessageBox::Information,
+        version() + QStringLiteral("\nThe reference host of the synccontrol plug-in."), {}, nullptr,
+        false);
+}
+
 QString HST_Host::translate(const QString& sourceText, int)
 {
     hostCall("translate");
+    return translatedText(sourceText);
+}
+
+QString HST_Host::translatedText(const QString& sourceText) const
+{
     if (!m_translator)
         return sourceText;
     const QString translated = m_translator->translate(translationContext, sourceText.toUtf8());
@@ -526,111 +578,6 @@ void HST_Host::runWithBusyDialog(const QString& text, QFutureWatcher<void>* watc
     watcher->waitForFinished();
 }
 
-int HST_Host::documentKey(DOC_Interface* doc)
-{
-    hostCall("documentKey");
-    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
-        if (it.value() == doc)
-            return it.key();
-    }
-    return INVALID_DOCKEY;
-}
-
-DOC_Interface* HST_Host::document(int key, bool)
-{
-    hostCall("document");
-    return m_documents.value(key, nullptr);
-}
-
-void HST_Host::setCurrentDocument(int key, bool)
-{
-    hostCall("setCurrentDocument");
-    if (m_documents.contains(key))
-        m_currentKey = key;
-}
-
-void HST_Host::removeDocument(int key)
-{
-    hostCall("removeDocument");
-    closeDocument(key);
-}
-
-void HST_Host::closeDocument(int key)
-{
-    if (!m_documents.remove(key))
-        return;
-    if (m_currentKey == key)
-        m_currentKey = m_documents.isEmpty() ? INVALID_DOCKEY : m_documents.firstKey();
-    m_recorder->record(QStringLiteral("removeDocument"), { { QStringLiteral("key"), key } });
-    emit stateChanged();
-}
-
-void HST_Host::documentsChanged(bool refresh)
-{
-    hostCall("documentsChanged");
-    m_recorder->record(
-        QStringLiteral("documentsChanged"), { { QStringLiteral("refresh"), refresh } });
-    emit stateChanged();
-}
-
-QList<int>& HST_Host::documentKeysForList(QList<int>& out, int)
-{
-    hostCall("documentKeysForList");
-    out = m_documents.keys();
-    return out;
-}
-
-QList<int>& HST_Host::temporaryDocumentKeys(QList<int>& out)
-{
-    hostCall("temporaryDocumentKeys");
-    out.clear();
-    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
-        if (it.value()->isTemporary())
-            out.append(it.key());
-    }
-    return out;
-}
-
-QList<int>& HST_Host::openedDocumentKeys(QList<int>& out, bool, bool)
-{
-    hostCall("openedDocumentKeys");
-    out = m_documents.keys();
-    return out;
-}
-
-QList<int>& HST_Host::liveDocumentKeys(QList<int>& out, int)
-{
-    hostCall("liveDocumentKeys");
-    out.clear();
-    for (auto it = m_documents.begin(); it != m_documents.end(); ++it) {
-        if (it.value()->cameraState())
-            out.append(it.key());
-    }
-    return out;
-}
-
-QList<int> HST_Host::documentKeys(int)
-{
-    hostCall("documentKeys");
-    return m_documents.keys();
-}
-
-QList<int>& HST_Host::orderedKeys(QList<int>& out)
-{
-    hostCall("orderedKeys");
-    out = m_documents.keys();
-    return out;
-}
-
-QList<DOC_Interface*>& HST_Host::allDocuments(QList<DOC_Interface*>& out)
-{
-    hostCall("allDocuments");
-    out.clear();
-    for (HST_Document* document : qAsConst(m_documents))
-        out.append(document);
-    return out;
-}
-
 void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor,
     bool external, bool generatorControl, int syncIn, int frequency, int polarity)
 {
@@ -640,13 +587,13 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
     QList<HST_CameraState*> states;
     QString refusal;
     for (DOC_Camera* camera : cameras) {
-        HST_CameraState* state = m_cameraByPointer.value(camera, nullptr);
+        HST_CameraState* state = cameraOf(camera);
         addresses.append(state ? QJsonValue(state->spec.ip) : QJsonValue());
         if (!state)
             refusal = QStringLiteral("A camera of the request is not connected to the host.");
         states.append(state);
     }
-    HST_CameraState* masterState = m_cameraByPointer.value(master, nullptr);
+    HST_CameraState* masterState = cameraOf(master);
     if (master && !masterState)
         refusal = QStringLiteral("The master camera is not connected to the host.");
     if (!external && !master)
@@ -688,7 +635,7 @@ void HST_Host::applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int dis
 bool HST_Host::isSyncRequired()
 {
     hostCall("isSyncRequired");
-    for (const auto& camera : m_cameras) {
+    for (const HST_CameraState* camera : cameras()) {
         if (camera->syncRequired.load())
             return true;
     }
@@ -770,20 +717,18 @@ void HST_Host::applyChanges()
 QString& HST_Host::defaultCameraName(QString& out, int)
 {
     hostCall("defaultCameraName");
-    out = m_scenario.defaultCameraName.isEmpty() ? HST_Devices::defaultName(int(m_cameras.size()))
-                                                 : m_scenario.defaultCameraName;
+    out = m_scenario.defaultCameraName.isEmpty()
+        ? HST_Devices::defaultName(int(cameraStates().size()))
+        : m_scenario.defaultCameraName;
     return out;
 }
 
 void HST_Host::addDevice(const QString& cameraName, const QString& ip, bool isDummy, bool connect)
 {
     hostCall("addDevice");
-    const HST_CameraSpec spec = HST_Devices::newDevice(m_cameras, cameraName, ip, isDummy);
+    HST_CameraSpec spec = HST_Devices::newDevice(cameraStates(), cameraName, ip, isDummy);
+    spec.connected = connect;
     HST_CameraState* camera = addCamera(spec);
-    camera->connected = connect;
-    countDevices();
-    if (m_currentKey == INVALID_DOCKEY)
-        m_currentKey = camera->primary->key();
     HST_Devices::recordAdded(m_recorder, *camera, connect);
     emit stateChanged();
 }
@@ -792,8 +737,8 @@ void HST_Host::editDevice(int key, const QString& cameraName, const QString& ip,
     const QString& subnetmask, const QString& gateway, bool cameraMode)
 {
     hostCall("editDevice");
-    HST_Document* document = m_documents.value(key, nullptr);
-    HST_Devices::edit(m_cameras, document ? document->cameraState() : nullptr, cameraName, ip,
+    HST_Document* document = openDocument(key);
+    HST_Devices::edit(cameraStates(), document ? document->cameraState() : nullptr, cameraName, ip,
         subnetmask, gateway);
     m_recorder->record(QStringLiteral("editDevice"),
         { { QStringLiteral("key"), key }, { QStringLiteral("name"), cameraName },

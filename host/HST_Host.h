@@ -1,14 +1,11 @@
 #pragma once
 
-#include "host/HST_Document.h"
-#include "host/HST_NeutralHost.h"
+#include "host/HST_DocumentHost.h"
 #include "host/HST_SaveRegistry.h"
 #include "host/HST_Scenario.h"
 #include "plugin/APP_CameraTypeRecord.h"
 
-#include <QMap>
 #include <QMessageBox>
-#include <QMutex>
 #include <QObject>
 #include <QPointer>
 
@@ -18,15 +15,15 @@
 class HST_Faults;
 class HST_HubList;
 class HST_Preferences;
+class HST_PrefsDialog;
 class HST_Recorder;
 class QTranslator;
-struct HST_CameraState;
 
 // The reference host: APP_Host over the simulated cameras, documents and hubs of a scenario.
 // Messages are real message boxes, preferences an INI file, and every call the plug-in makes
-// that a test may want to see is recorded. Operations the simulation doesn't model are in
-// HST_NeutralHost.
-class HST_Host : public QObject, public HST_NeutralHost
+// that a test may want to see is recorded. The documents are in HST_DocumentHost, the status
+// queries in HST_StatusHost, the operations the simulation doesn't model in HST_NeutralHost.
+class HST_Host : public QObject, public HST_DocumentHost
 {
     Q_OBJECT
 
@@ -41,8 +38,6 @@ public:
     bool loadTranslations(const QString& path, QString& error);
     void setMainWindow(QWidget* window);
     void setMode(int mode);
-    // A document without a camera; gives its key.
-    int addFileDocument();
     // Applies the keys of a scenario that the object holds, as if the world had changed
     // (cameras and files replace all documents); false with error set when refused.
     bool changeWorld(const QJsonObject& world, QString& error);
@@ -54,19 +49,36 @@ public:
     // The host's own view of its state, for its window: not operations of the plug-in's, so
     // they are neither recorded nor faulted.
     int mode() const { return m_mode; }
-    QList<HST_Document*> openDocuments() const { return m_documents.values(); }
-    void closeDocument(int key);
     void showReport(const std::exception& e);
+    QWidget* mainWindow() const { return m_mainWindow; }
+    void showAboutBox();
+    // The host's translation for its own texts: neither recorded nor faulted.
+    QString translatedText(const QString& sourceText) const;
+    QString version() const { return m_scenario.versionText; }
+    // The host's own preferences dialog, made on first use.
+    HST_PrefsDialog* preferencesDialog();
+    // A plug-in's window opened or closed (a button's execute, a dialog of the factory).
+    void setPluginWindowOpen(bool open);
+    // Publishes a mediator under its object name to the view's page, again whenever the page's
+    // window object is cleared; the work of attachMediator.
+    void publishMediator(QWebView* view, QObject* mediator);
 
 signals:
     // The mode or the documents changed: plug-ins' enabled state must be asked again.
     void stateChanged();
+    // Something asked the host to refresh what shows its state (updateUI).
+    void uiUpdateRequested();
 
 public:
     // APP_Host
     void updateUI(unsigned mask, bool flag) override;
     QVariant& defaultVariant(QVariant& out, const QString& key) override;
     void restoreDefault(const QString& key) override;
+    APP_PrefsDialog* prefsDialog() override;
+    bool isPrefDialogOpening() override;
+    void openEthernetSettings() override;
+    bool exportSupportFile(const QString& zipPath) override;
+    bool isOtherPluginOpen() override;
     bool isModalAnnounced() override
     {
         hostCall("isModalAnnounced");
@@ -121,6 +133,7 @@ public:
     void showError(const QString& text, QWidget* parent) override;
     bool confirm(const QString& text, QWidget* parent, const QVariantMap& options) override;
     QStringList& fontList(QStringList& out) override;
+    void showAbout() override;
     QString translate(const QString& sourceText, int reserved = 0) override;
     void syncCapableTypes(QList<APP_CameraTypeRecord*>& out) override;
     bool isReady() override
@@ -153,52 +166,8 @@ public:
     }
     void runWithBusyDialog(const QString& text, QFutureWatcher<void>* watcher) override;
 
-    // APP_DocumentList
-    int documentKey(DOC_Interface* doc) override;
-    DOC_Interface* document(int key, bool connectedOnly = true) override;
-    DOC_Interface* documentForList(int key) override
-    {
-        hostCall("documentForList");
-        return document(key);
-    }
-    DOC_Interface* documentByKey(int key) override
-    {
-        hostCall("documentByKey");
-        return document(key);
-    }
-    void setCurrentDocument(int key, bool update = true) override;
-    DOC_Interface* currentDocument() override
-    {
-        hostCall("currentDocument");
-        return document(m_currentKey);
-    }
-    int currentKey() override
-    {
-        hostCall("currentKey");
-        return m_currentKey;
-    }
-    void removeDocument(int key) override;
-    void documentsChanged(bool refresh = true) override;
-    int selectedDocumentCount() override
-    {
-        hostCall("selectedDocumentCount");
-        return m_documents.size();
-    }
-    QList<int>& documentKeysForList(QList<int>& out, int filter = 1) override;
-    QList<int>& temporaryDocumentKeys(QList<int>& out) override;
-    QList<int>& openedDocumentKeys(
-        QList<int>& out, bool first = true, bool second = false) override;
-    QList<int>& liveDocumentKeys(QList<int>& out, int filter = 0) override;
-    QList<int> documentKeys(int filter = 0) override;
-    QList<int>& orderedKeys(QList<int>& out) override;
-    QMutex* documentMutex() override
-    {
-        hostCall("documentMutex");
-        return &m_documentMutex;
-    }
-    QList<DOC_Interface*>& allDocuments(QList<DOC_Interface*>& out) override;
-
     // APP_CameraManager
+    void pauseLive() override;
     void applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor, bool external,
         bool generatorControl, int syncIn, int frequency, int polarity) override;
     bool isSyncRequired() override;
@@ -278,12 +247,10 @@ public:
 
 protected:
     void hostCall(const char* operation) override;
+    void hostStateChanged() override { emit stateChanged(); }
 
 private:
     void setTypeRecords(const QList<int>& types);
-    void addDocuments(const QList<HST_CameraSpec>& cameras, const QList<HST_DocumentSpec>& files);
-    HST_CameraState* addCamera(const HST_CameraSpec& spec);
-    void countDevices();
     // Records the box with the text of the button that closed it.
     QMessageBox::StandardButton runMessageBox(const QString& kind, QMessageBox::Icon icon,
         const QString& text, const QStringList& details, QWidget* parent, bool withCancel);
@@ -293,26 +260,18 @@ private:
     std::unique_ptr<HST_Preferences> m_prefs;
     QTranslator* m_translator = nullptr;
     QPointer<QWidget> m_mainWindow;
+    // Owned here, a child of the main window: whichever goes first, the other sees it gone.
+    QPointer<HST_PrefsDialog> m_prefsDialog;
+    int m_pluginWindows = 0;
     QObject* m_scriptObject;
     QObject* m_mainScriptObject;
     int m_mode = 0;
     int m_modalDepth = 0;
 
     std::unique_ptr<HST_Faults> m_faults;
-    HST_DocumentContext m_documentContext;
     std::unique_ptr<HST_SaveRegistry> m_saveRegistry;
-    std::vector<std::unique_ptr<HST_CameraState>> m_cameras;
-    // All documents ever made; a removed one stays alive, since a dialog may still hold it.
-    std::vector<std::unique_ptr<HST_Document>> m_allDocuments;
-    QMap<int, HST_Document*> m_documents;
-    QMap<DOC_Camera*, HST_CameraState*> m_cameraByPointer;
-    int m_nextKey = 1;
-    int m_currentKey = INVALID_DOCKEY;
-    int m_fileCount = 0;
-    QMutex m_documentMutex;
     std::vector<std::unique_ptr<APP_CameraTypeRecord>> m_typeRecords;
 
     std::unique_ptr<HST_HubList> m_hubs;
-    std::vector<std::unique_ptr<HST_CameraState>> m_retiredCameras;
     std::vector<std::unique_ptr<HST_HubList>> m_retiredHubs;
 };

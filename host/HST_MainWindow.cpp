@@ -1,23 +1,41 @@
 #include "host/HST_MainWindow.h"
 
 #include "host/HST_CameraState.h"
+#include "host/HST_DialogOpener.h"
 #include "host/HST_Document.h"
+#include "host/HST_DocumentArea.h"
 #include "host/HST_Host.h"
+#include "host/HST_PagePanel.h"
 #include "host/HST_Recorder.h"
 #include "plugin/PLG_Interface.h"
+#include "plugin/SharedKeys.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalBlocker>
 #include <QTableWidget>
 #include <QToolBar>
+#include <QUndoStack>
+
+namespace {
+
+// The page whose buttons the Edit and Help menus press.
+const QString statusPage = QStringLiteral("hoststatus");
+
+} // namespace
 
 HST_MainWindow::HST_MainWindow(HST_Host* host)
     : m_host(host)
     , m_toolBar(addToolBar(QStringLiteral("Plug-ins")))
     , m_modeBox(new QComboBox(this))
+    , m_documentArea(new HST_DocumentArea(host, this))
     , m_documentTable(new QTableWidget(0, 7, this))
+    , m_opener(new HST_DialogOpener(host, this))
 {
     setObjectName(QStringLiteral("host_mainWindow"));
     setWindowTitle(QStringLiteral("tarvix4host"));
@@ -39,7 +57,12 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
         const int row = m_documentTable->currentRow();
         if (row >= 0)
             m_host->closeDocument(m_documentTable->item(row, 0)->text().toInt());
+        else if (m_host->currentDocumentKey() >= 0)
+            m_host->closeDocument(m_host->currentDocumentKey());
     });
+
+    setCentralWidget(m_documentArea);
+    host->setDocumentArea(m_documentArea);
 
     m_documentTable->setObjectName(QStringLiteral("host_documents"));
     m_documentTable->setHorizontalHeaderLabels({ QStringLiteral("Key"), QStringLiteral("Name"),
@@ -49,13 +72,112 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     m_documentTable->verticalHeader()->hide();
     m_documentTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_documentTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    setCentralWidget(m_documentTable);
-    resize(800, 400);
+    auto* documents = new QDockWidget(QStringLiteral("Documents"), this);
+    documents->setObjectName(QStringLiteral("host_documentsPanel"));
+    documents->setWidget(m_documentTable);
+    addDockWidget(Qt::BottomDockWidgetArea, documents);
+    buildMenus();
+    resize(1100, 720);
+    resizeDocks({ documents }, { 150 }, Qt::Vertical);
+    // The host starts full screen when its scenario says so.
+    if (host->status(STATUS_IS_FULL_SCREEN))
+        setWindowState(windowState() | Qt::WindowFullScreen);
 
     // Queued: the plug-in may report a change from inside one of its own operations.
     connect(
         host, &HST_Host::stateChanged, this, &HST_MainWindow::refreshState, Qt::QueuedConnection);
     fillDocuments();
+}
+
+HST_MainWindow::~HST_MainWindow()
+{
+    m_host->setDocumentArea(nullptr);
+}
+
+void HST_MainWindow::buildMenus()
+{
+    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
+    QAction* openFile = file->addAction(QStringLiteral("Open simulated file"));
+    openFile->setObjectName(QStringLiteral("host_openFile"));
+    connect(openFile, &QAction::triggered, m_host, [this] { m_host->addFileDocument(); });
+    file->addAction(findChild<QAction*>(QStringLiteral("host_closeDocument")));
+    file->addSeparator();
+    connect(file->addAction(QStringLiteral("Quit")), &QAction::triggered, this, &QWidget::close);
+
+    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    QAction* undo = m_host->undoStack()->createUndoAction(this, QStringLiteral("Undo"));
+    undo->setObjectName(QStringLiteral("host_undo"));
+    QAction* redo = m_host->undoStack()->createRedoAction(this, QStringLiteral("Redo"));
+    redo->setObjectName(QStringLiteral("host_redo"));
+    edit->addAction(undo);
+    edit->addAction(redo);
+    edit->addSeparator();
+    const struct
+    {
+        QMenu* menu;
+        const char* title;
+        const char* button;
+    } pageEntries[] = {
+        { edit, "Copy selected area", "copyArea" },
+        { edit, "Preferences...", "prefs" },
+        { edit, "Ethernet settings...", "ethernet" },
+    };
+    for (const auto& entry : pageEntries) {
+        QAction* action = entry.menu->addAction(QLatin1String(entry.title));
+        const QString button = QLatin1String(entry.button);
+        connect(
+            action, &QAction::triggered, this, [this, button] { clickStatusPageButton(button); });
+        m_pageActions.append(action);
+    }
+
+    m_viewMenu = menuBar()->addMenu(QStringLiteral("&View"));
+    QAction* fullScreen = m_viewMenu->addAction(QStringLiteral("Full screen"));
+    fullScreen->setObjectName(QStringLiteral("host_fullScreen"));
+    fullScreen->setCheckable(true);
+    fullScreen->setChecked(m_host->status(STATUS_IS_FULL_SCREEN));
+    connect(fullScreen, &QAction::toggled, this, [this](bool on) {
+        setWindowState(
+            on ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen);
+        m_host->recorder()->record(QStringLiteral("fullScreen"), { { QStringLiteral("on"), on } });
+        emit m_host->stateChanged();
+    });
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(
+        findChild<QDockWidget*>(QStringLiteral("host_documentsPanel"))->toggleViewAction());
+
+    m_toolsMenu = menuBar()->addMenu(QStringLiteral("&Tools"));
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    QAction* support = help->addAction(QStringLiteral("Export support file..."));
+    connect(support, &QAction::triggered, this,
+        [this] { clickStatusPageButton(QStringLiteral("support")); });
+    m_pageActions.append(support);
+    connect(help->addAction(QStringLiteral("About")), &QAction::triggered, this,
+        [this] { m_host->showAboutBox(); });
+    for (QAction* action : qAsConst(m_pageActions))
+        action->setEnabled(false);
+}
+
+void HST_MainWindow::addPageActions()
+{
+    for (const HST_DialogOpener::Page& page : m_opener->pages()) {
+        const QString title = m_host->translatedText(page.title);
+        QMenu* menu = page.kind == QLatin1String("dialog") ? m_toolsMenu : m_viewMenu;
+        QAction* action = menu->addAction(
+            page.kind == QLatin1String("dialog") ? title + QStringLiteral("...") : title);
+        const QString name = page.name;
+        connect(
+            action, &QAction::triggered, this, [this, name] { m_opener->open(name, QString()); });
+    }
+    const bool statusPageThere = m_opener->hasPage(statusPage);
+    for (QAction* action : qAsConst(m_pageActions))
+        action->setEnabled(statusPageThere);
+}
+
+void HST_MainWindow::clickStatusPageButton(const QString& id)
+{
+    if (HST_PagePanel* panel = m_opener->pagePanel(statusPage))
+        panel->evaluateWhenLoaded(QStringLiteral("hoststatusPage.press('%1')").arg(id));
 }
 
 void HST_MainWindow::addPlugin(PLG_Interface* plugin)
@@ -66,6 +188,8 @@ void HST_MainWindow::addPlugin(PLG_Interface* plugin)
     connect(action, &QAction::triggered, this, [this, plugin, name] { runPlugin(plugin, name); });
     m_plugins.insert(name, plugin);
     m_actions.insert(name, action);
+    if (m_opener->addPlugin(plugin))
+        addPageActions();
     refreshState();
 }
 
@@ -122,6 +246,10 @@ bool HST_MainWindow::askEnabled(const QString& name, PLG_Interface* plugin)
 void HST_MainWindow::refreshState()
 {
     m_modeBox->setCurrentIndex(m_host->mode());
+    if (auto* fullScreen = findChild<QAction*>(QStringLiteral("host_fullScreen"))) {
+        const QSignalBlocker quiet(fullScreen);
+        fullScreen->setChecked(isFullScreen());
+    }
     fillDocuments();
     for (auto it = m_plugins.begin(); it != m_plugins.end(); ++it) {
         m_actions.value(it.key())->setEnabled(askEnabled(it.key(), it.value()));
@@ -139,6 +267,7 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
     recorder->record(QStringLiteral("execute"),
         { { QStringLiteral("name"), name }, { QStringLiteral("phase"), "begin" } });
     ++m_running;
+    m_host->setPluginWindowOpen(true);
     try {
         plugin->execute();
     } catch (const std::exception& e) {
@@ -147,6 +276,7 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
     } catch (...) {
         qCritical("A plug-in let an exception of unknown type out of execute");
     }
+    m_host->setPluginWindowOpen(false);
     --m_running;
     recorder->record(QStringLiteral("execute"),
         { { QStringLiteral("name"), name }, { QStringLiteral("phase"), "end" } });
@@ -182,8 +312,8 @@ void HST_MainWindow::fillDocuments()
     for (int row = 0; row < documents.size(); ++row) {
         const HST_Document* document = documents.at(row);
         const HST_CameraState* camera = document->cameraState();
-        const QStringList cells { QString::number(document->key()),
-            camera ? camera->spec.name : document->fileName(), camera ? camera->spec.ip : QString(),
+        const QStringList cells { QString::number(document->key()), document->title(),
+            camera ? camera->spec.ip : QString(),
             camera ? QString::number(camera->spec.type) : QString(),
             camera ? camera->spec.model : QStringLiteral("(file)"), document->commentText(),
             customText(document->customItems()) };
@@ -191,4 +321,5 @@ void HST_MainWindow::fillDocuments()
             m_documentTable->setItem(row, column, new QTableWidgetItem(cells.at(column)));
     }
     m_documentTable->resizeColumnsToContents();
+    m_documentArea->sync();
 }

@@ -7,7 +7,7 @@
 
 // The part of the reference host that the simulation doesn't model. The rule, for every
 // operation here: a query answers false, 0, an empty value or null; an out argument is
-// cleared; a command does nothing. HST_Host gives real behaviour to the rest.
+// cleared; a command does nothing. HST_StatusHost and HST_Host give real behaviour to the rest.
 class HST_NeutralHost : public APP_Host
 {
 protected:
@@ -40,31 +40,15 @@ public:
         return out;
     }
     void refreshQuickTools() override { hostCall("refreshQuickTools"); }
-    APP_PrefsDialog* prefsDialog() override
-    {
-        hostCall("prefsDialog");
-        return nullptr;
-    }
     bool isDisplayInfoShowing() override
     {
         hostCall("isDisplayInfoShowing");
         return false;
     }
-    void showAbout() override { hostCall("showAbout"); }
     void setDisplayInfoShowing(bool) override { hostCall("setDisplayInfoShowing"); }
-    bool isToolActive(const QString&) override
-    {
-        hostCall("isToolActive");
-        return false;
-    }
     bool appliesTo(const QString&, DOC_Interface*, int = 0) override
     {
         hostCall("appliesTo");
-        return false;
-    }
-    bool isTracking() override
-    {
-        hostCall("isTracking");
         return false;
     }
     void getTimeCodeSettings(APP_TimeCodeRecord*) override { hostCall("getTimeCodeSettings"); }
@@ -80,70 +64,18 @@ public:
         return false;
     }
     void deterUpdateUI(bool) override { hostCall("deterUpdateUI"); }
-    bool exportSupportFile(const QString&) override
-    {
-        hostCall("exportSupportFile");
-        return false;
-    }
     bool isCameraNameListEnabled() override
     {
         hostCall("isCameraNameListEnabled");
         return false;
     }
     void setOverlayFont(const QString&, int) override { hostCall("setOverlayFont"); }
-    bool isCycleView() override
-    {
-        hostCall("isCycleView");
-        return false;
-    }
-    bool isNotCurrentAutoFocus(bool) override
-    {
-        hostCall("isNotCurrentAutoFocus");
-        return false;
-    }
-    bool isAutoFocussing() override
-    {
-        hostCall("isAutoFocussing");
-        return false;
-    }
-    bool isNotLivePage(bool) override
-    {
-        hostCall("isNotLivePage");
-        return false;
-    }
-    bool isPrefDialogOpening() override
-    {
-        hostCall("isPrefDialogOpening");
-        return false;
-    }
-    bool isShading() override
-    {
-        hostCall("isShading");
-        return false;
-    }
-    void setModelessTextFocus(bool) override { hostCall("setModelessTextFocus"); }
-    bool isModalessDialogTextFocussing() override
-    {
-        hostCall("isModalessDialogTextFocussing");
-        return false;
-    }
     bool hasRestoredPrefs() override
     {
         hostCall("hasRestoredPrefs");
         return false;
     }
     void applyRestoredPrefs(bool = true) override { hostCall("applyRestoredPrefs"); }
-    bool isActiveOnRostra() override
-    {
-        hostCall("isActiveOnRostra");
-        return false;
-    }
-    bool isOtherPluginOpen() override
-    {
-        hostCall("isOtherPluginOpen");
-        return false;
-    }
-    void openEthernetSettings() override { hostCall("openEthernetSettings"); }
 
     // APP_PageStack
     PLG_Interface* pluginByName(const QString&) override
@@ -160,57 +92,6 @@ public:
         hostCall("currentPage");
         return nullptr;
     }
-    QString& activeToolName(QString& out) override
-    {
-        hostCall("activeToolName");
-        out.clear();
-        return out;
-    }
-    bool isVariableSetting() override
-    {
-        hostCall("isVariableSetting");
-        return false;
-    }
-    bool isAutoExposureSetting() override
-    {
-        hostCall("isAutoExposureSetting");
-        return false;
-    }
-    bool isHwTriggerSetting() override
-    {
-        hostCall("isHwTriggerSetting");
-        return false;
-    }
-    bool isSendingNodeCommand() override
-    {
-        hostCall("isSendingNodeCommand");
-        return false;
-    }
-    bool isAdjustingImage() override
-    {
-        hostCall("isAdjustingImage");
-        return false;
-    }
-    bool isDetectingPixelDefect() override
-    {
-        hostCall("isDetectingPixelDefect");
-        return false;
-    }
-    bool isImageTriggerCapturing() override
-    {
-        hostCall("isImageTriggerCapturing");
-        return false;
-    }
-    bool isImageTriggerDetecting() override
-    {
-        hostCall("isImageTriggerDetecting");
-        return false;
-    }
-    bool isRostraRunning() override
-    {
-        hostCall("isRostraRunning");
-        return false;
-    }
 
     // APP_DocumentList
     DOC_Interface* currentDocument(QInputEvent*) override
@@ -218,13 +99,9 @@ public:
         hostCall("currentDocument");
         return nullptr;
     }
-    void selectDocument(int) override { hostCall("selectDocument"); }
-    void unselectDocument(int) override { hostCall("unselectDocument"); }
     void removeAllDocuments(int, bool) override { hostCall("removeAllDocuments"); }
     void prepareVaultPackFormat(int) override { hostCall("prepareVaultPackFormat"); }
     void prepareCFastFormat(int) override { hostCall("prepareCFastFormat"); }
-    void selectAllDocuments(JS_Mediator*) override { hostCall("selectAllDocuments"); }
-    void selectDocuments(const QList<int>&, int = 0) override { hostCall("selectDocuments"); }
     bool isMultiLock() override
     {
         hostCall("isMultiLock");
@@ -235,16 +112,9 @@ public:
     void abortToolEdit(const QString&) override { hostCall("abortToolEdit"); }
     void resetTool(const QString&) override { hostCall("resetTool"); }
     void setToolOption(const QString&, bool) override { hostCall("setToolOption"); }
-    void deselectTool(const QString&) override { hostCall("deselectTool"); }
-    void selectTool(const QString&, bool) override { hostCall("selectTool"); }
     bool isWaveDataAcquisition() override
     {
         hostCall("isWaveDataAcquisition");
-        return false;
-    }
-    bool hasWaveformData() override
-    {
-        hostCall("hasWaveformData");
         return false;
     }
     QList<int>& temporaryDocumentKeys(QList<int>& out) override
@@ -253,11 +123,6 @@ public:
         out.clear();
         return out;
     }
-    bool isConflictPartition(int = 1) override
-    {
-        hostCall("isConflictPartition");
-        return false;
-    }
     void refreshAfterPause() override { hostCall("refreshAfterPause"); }
     DOC_Interface* headParent(DOC_Interface*) override
     {
@@ -265,13 +130,8 @@ public:
         return nullptr;
     }
     void refreshViewsAfterPause() override { hostCall("refreshViewsAfterPause"); }
-    bool isPhaseAdjusting() override
-    {
-        hostCall("isPhaseAdjusting");
-        return false;
-    }
 
-    // APP_LiveLoop, APP_Recorder, APP_Playback
+    // APP_LiveLoop, APP_Playback
     void resumeLive() override { hostCall("resumeLive"); }
     void pauseLiveLoop(bool = false) override { hostCall("pauseLiveLoop"); }
     bool needsRestart() override
@@ -279,25 +139,10 @@ public:
         hostCall("needsRestart");
         return false;
     }
-    bool isRecording() override
-    {
-        hostCall("isRecording");
-        return false;
-    }
-    int recordingStatus() override
-    {
-        hostCall("recordingStatus");
-        return 0;
-    }
     void pausePlayback() override { hostCall("pausePlayback"); }
     void resumePlayback() override { hostCall("resumePlayback"); }
 
     // APP_CameraManager
-    bool isLensCalibration() override
-    {
-        hostCall("isLensCalibration");
-        return false;
-    }
     void selectPartition(int, bool = true) override { hostCall("selectPartition"); }
     QString& defaultCameraName(QString& out, int = 0) override
     {
@@ -305,33 +150,7 @@ public:
         out.clear();
         return out;
     }
-    bool existsLowLight() override
-    {
-        hostCall("existsLowLight");
-        return false;
-    }
-    bool isAllLowLight(bool) override
-    {
-        hostCall("isAllLowLight");
-        return false;
-    }
-    bool isAllDevicesLocked() override
-    {
-        hostCall("isAllDevicesLocked");
-        return false;
-    }
-    bool isLowLight() override
-    {
-        hostCall("isLowLight");
-        return false;
-    }
-    void pauseLive() override { hostCall("pauseLive"); }
     void selectVariable(int) override { hostCall("selectVariable"); }
-    bool isDirectSaving(int = 1) override
-    {
-        hostCall("isDirectSaving");
-        return false;
-    }
     void editDevice(
         int, const QString&, const QString&, const QString&, const QString&, bool) override
     {
@@ -340,21 +159,6 @@ public:
     void addDevice(const QString&, const QString&, bool, bool) override { hostCall("addDevice"); }
 
     // APP_SaveRegistry
-    bool isAutoExporting() override
-    {
-        hostCall("isAutoExporting");
-        return false;
-    }
-    bool isBackgroundSaving() override
-    {
-        hostCall("isBackgroundSaving");
-        return false;
-    }
-    bool isBackgroundConverting() override
-    {
-        hostCall("isBackgroundConverting");
-        return false;
-    }
     void commitPendingNames() override { hostCall("commitPendingNames"); }
     void beginNamePass() override { hostCall("beginNamePass"); }
     void noteGroupDirectory(const QString&) override { hostCall("noteGroupDirectory"); }
@@ -382,9 +186,8 @@ public:
         out.clear();
         return out;
     }
-    void copySelectArea(int = 2) override { hostCall("copySelectArea"); }
 
-    // APP_View, APP_WindowList, APP_UndoStack
+    // APP_View
     bool isCycleViewActive() override
     {
         hostCall("isCycleViewActive");
@@ -395,22 +198,4 @@ public:
         hostCall("zoomValue");
         return 0.0f;
     }
-    int windowCount(bool, int) override
-    {
-        hostCall("windowCount");
-        return 0;
-    }
-    void undo() override { hostCall("undo"); }
-    bool canUndo() override
-    {
-        hostCall("canUndo");
-        return false;
-    }
-    bool canRedo() override
-    {
-        hostCall("canRedo");
-        return false;
-    }
-    void beginMacro(const QString&) override { hostCall("beginMacro"); }
-    void endMacro() override { hostCall("endMacro"); }
 };

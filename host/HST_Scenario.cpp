@@ -1,6 +1,7 @@
 #include "host/HST_Scenario.h"
 
 #include "host/HST_Json.h"
+#include "plugin/SharedKeys.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -8,7 +9,9 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace {
@@ -283,7 +286,8 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
                 "dualSlopeShutter", "automaticExposureControl", "exposureTimingFlag",
                 "exposureTimingClass", "documents", "dummy", "needsErase", "recorded",
                 "syncRequired", "subnetmask", "gateway", "etherType", "headNumber", "headCount",
-                "firmware", "functions", "filePath" });
+                "firmware", "functions", "filePath", "connected", "mobile", "deviceName",
+                "wifiConnected", "linkSpeed", "bitDepth", "realBitDepth", "rostraLocked" });
     HST_CameraSpec camera;
     camera.name = readString(
         object, name, QStringLiteral("name"), QStringLiteral("Camera %1").arg(index + 1));
@@ -322,6 +326,15 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
         camera.functions = readIntList(object, name, QStringLiteral("functions"));
     readDocument(object, name, camera.document);
     camera.document.filePath = readString(object, name, QStringLiteral("filePath"), QString());
+    camera.connected = readBool(object, name, QStringLiteral("connected"), true);
+    camera.mobile = readBool(object, name, QStringLiteral("mobile"), false);
+    camera.deviceName = readString(object, name, QStringLiteral("deviceName"), camera.name);
+    camera.wifiConnected = readBool(object, name, QStringLiteral("wifiConnected"), false);
+    camera.linkSpeed = readBool(object, name, QStringLiteral("linkSpeed"), false);
+    camera.bitDepth = readInt(object, name, QStringLiteral("bitDepth"), 8, 1, 16);
+    camera.realBitDepth
+        = readInt(object, name, QStringLiteral("realBitDepth"), camera.bitDepth, 1, 16);
+    camera.rostraLocked = readBool(object, name, QStringLiteral("rostraLocked"), false);
     return camera;
 }
 
@@ -386,12 +399,67 @@ QVariant prefValue(const QJsonValue& value, const QString& name)
     }
 }
 
+// The status names the host derives from its own state, with what sets them instead.
+QString derivedStatus(const QString& name)
+{
+    static const struct
+    {
+        const QString* name;
+        const char* setBy;
+    } derived[] = {
+        { &STATUS_IS_LIVE_MODE, "follows \"mode\"" },
+        { &STATUS_IS_MEMORY_MODE, "follows \"mode\"" },
+        { &STATUS_IS_FILE_MODE, "follows \"mode\"" },
+        { &STATUS_IS_NONE_WINDOW, "follows the document windows (\"cameras\", \"files\")" },
+        { &STATUS_IS_SINGLE_WINDOW, "follows the document windows (\"cameras\", \"files\")" },
+        { &STATUS_IS_MULTI_WINDOW, "follows the document windows (\"cameras\", \"files\")" },
+        { &STATUS_IS_SINGLE_SELECTED_DOCUMENT,
+            "follows the document windows (\"cameras\", \"files\")" },
+        { &STATUS_IS_NONE_DOCUMENT, "follows the selection of documents" },
+        { &STATUS_IS_CURRENT_DISCONNECTED,
+            "follows the current document (camera key \"connected\")" },
+        { &STATUS_IS_NOT_RECORDING, "follows \"recordingStatus\"" },
+        { &STATUS_IS_CTS_READY, "follows \"recordingStatus\"" },
+        { &STATUS_IS_READY, "follows \"recordingStatus\"" },
+        { &STATUS_IS_RECORDING_ERROR, "follows \"recordingStatus\"" },
+        { &STATUS_IS_MODAL_DIALOG_OPENING, "true while a modal dialog is open" },
+        { &STATUS_IS_PREF_DIALOG_OPENING, "true while the preferences dialog is open" },
+        { &STATUS_IS_OTHER_PLUGIN_OPEN, "true while a plug-in's window is open" },
+        { &STATUS_IS_LIVE_NO_AUTO_DOWNLOAD_SETTING,
+            "follows the preference \"recording/AutoDownload\" and \"mode\"" },
+        { &STATUS_IS_MOUSE_DRAGGING, "the host has no plug-in page a mouse could drag on" },
+        { &STATUS_IS_ROSTRA_LOCK_DEVICE,
+            "follows \"IsRostra\" and the current document's camera key \"rostraLocked\"" },
+    };
+    for (const auto& entry : derived) {
+        if (*entry.name == name)
+            return QLatin1String(entry.setBy);
+    }
+    return QString();
+}
+
+void readStatus(const QJsonObject& root, HST_Scenario& out)
+{
+    const QString path = QStringLiteral("status");
+    const QJsonObject status = readObject(root, QString(), path);
+    for (auto it = status.begin(); it != status.end(); ++it) {
+        const QString name = join(path, it.key());
+        if (std::find(std::begin(STATUS_NAMES), std::end(STATUS_NAMES), it.key())
+            == std::end(STATUS_NAMES))
+            refuse(name, QStringLiteral("not a status name"));
+        const QString setBy = derivedStatus(it.key());
+        if (!setBy.isEmpty())
+            refuse(name, QStringLiteral("can't be set: it %1").arg(setBy));
+        out.status.insert(it.key(), readBool(status, path, it.key(), false));
+    }
+}
+
 void readScenario(const QJsonObject& root, HST_Scenario& out)
 {
     checkKeys(root, QString(),
         { "mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync", "visa",
             "generator", "faults", "versionText", "defaultCameraName", "cameraNameList",
-            "deviceCount", "saveRegistry" });
+            "deviceCount", "saveRegistry", "status", "recordingStatus", "exportSupportFile" });
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
@@ -452,6 +520,10 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
             = readString(registry, path, QStringLiteral("groupDirectory"), QString());
         out.saveDirectory = readString(registry, path, QStringLiteral("directory"), QString());
     }
+    out.exportSupportFile = readOutcome(root, QString(), QStringLiteral("exportSupportFile"));
+    if (root.contains(QLatin1String("status")))
+        readStatus(root, out);
+    out.recordingStatus = readInt(root, QString(), QStringLiteral("recordingStatus"), 0, 0, 4);
     out.visa = readBool(root, QString(), QStringLiteral("visa"), false);
     if (root.contains(QLatin1String("generator"))) {
         const QString path = QStringLiteral("generator");

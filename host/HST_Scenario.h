@@ -64,9 +64,18 @@ struct HST_CameraSpec
     int headCount = 1;
     // Up to three parts of the firmware version.
     QStringList firmware { QStringLiteral("1.00") };
-    // Function numbers isFunctionSupported answers true for, beside 116 (needsErase).
+    // isFunctionSupported beyond 116 (needsErase): 112 Wi-Fi, 117 shutdown, 158 and 176 a log.
     QList<int> functions;
     HST_DocumentSpec document;
+    bool connected = true;
+    bool mobile = false;
+    // The name device lists show; the camera's name unless given.
+    QString deviceName;
+    bool wifiConnected = false;
+    bool linkSpeed = false;
+    int bitDepth = 8;
+    int realBitDepth = 8;
+    bool rostraLocked = false;
 };
 
 // When a hub answers: from the host's start, from the first connectAll, or never.
@@ -99,6 +108,13 @@ public:
     QList<HST_HubSpec> hubs;
     QVariantMap prefs;
     HST_Outcome applySync;
+    // What exportSupportFile does: "error" gives false, as a file that can't be written does.
+    HST_Outcome exportSupportFile;
+    // The host's status queries behind the control status map, by status name; only the names
+    // given. The names the host derives from its own state are refused or taken as its start.
+    QMap<QString, bool> status;
+    // 0 not recording, 1 CTS ready, 2 ready, 4 recording error.
+    int recordingStatus = 0;
     bool visa = false;
     // The simulated signal generator the host starts (HST_GeneratorSimulator); checked keys.
     bool hasGenerator = false;

@@ -2,15 +2,20 @@
 
 #include "host/HST_Json.h"
 #include "host/HST_Recorder.h"
+#include "host/HST_ScriptTargets.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -37,18 +42,6 @@ bool isBusyDialog(QWidget* widget)
 template <typename Action> void post(QObject* target, Action action)
 {
     QMetaObject::invokeMethod(target, action, Qt::QueuedConnection);
-}
-
-QAbstractButton* findButton(const QString& target, QWidget* window)
-{
-    const QList<QAbstractButton*> buttons = window->findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons) {
-        const bool matches
-            = button->objectName() == target || button->text().remove(QLatin1Char('&')) == target;
-        if (matches && button->isVisible() && button->isEnabled())
-            return button;
-    }
-    return nullptr;
 }
 
 // A window the script acts in: not a message box, not a busy dialog.
@@ -79,10 +72,16 @@ bool HST_ScriptRunner::parse(
     }
     const QJsonArray list = document.array();
     for (int i = 0; i < list.size(); ++i) {
-        const QJsonObject step = list.at(i).toObject();
+        QJsonObject step = list.at(i).toObject();
         const QString where = QStringLiteral("%1: step %2").arg(source).arg(i + 1);
+        const QJsonValue window = step.take(QLatin1String("window"));
         if (!list.at(i).isObject() || step.size() != 1) {
-            error = where + QStringLiteral(": expected an object with one key");
+            error = where
+                + QStringLiteral(": expected an object with one key and an optional \"window\"");
+            return false;
+        }
+        if (!window.isUndefined() && (!window.isString() || window.toString().isEmpty())) {
+            error = where + QStringLiteral(": \"window\" must name a window");
             return false;
         }
         const QString kind = step.begin().key();
@@ -90,8 +89,10 @@ bool HST_ScriptRunner::parse(
         bool ok = false;
         if (kind == QLatin1String("click") || kind == QLatin1String("js")
             || kind == QLatin1String("screenshot") || kind == QLatin1String("press")
-            || kind == QLatin1String("open"))
+            || kind == QLatin1String("open") || kind == QLatin1String("menu"))
             ok = value.isString() && !value.toString().isEmpty();
+        else if (kind == QLatin1String("file"))
+            ok = value.isString();
         else if (kind == QLatin1String("visit"))
             ok = value.isArray() && value.toArray().size() == 2 && value.toArray().at(0).isString()
                 && !value.toArray().at(0).toString().isEmpty()
@@ -190,10 +191,23 @@ void HST_ScriptRunner::poll()
         fail(QStringLiteral("found nothing to act on within %1 s").arg(m_timeoutMs / 1000.0));
 }
 
-HST_ScriptRunner::Result HST_ScriptRunner::act(const QJsonObject& step, QWidget* window)
+HST_ScriptRunner::Result HST_ScriptRunner::act(QJsonObject step, QWidget* window)
 {
+    const QJsonValue named = step.take(QLatin1String("window"));
+    if (!named.isUndefined()) {
+        // A non-modal window or dock panel, out of reach while a modal window is up.
+        if (window)
+            return Result::Waiting;
+        window = HST_ScriptTargets::namedWindow(named.toString());
+        if (!window)
+            return Result::Waiting;
+    }
     const QString kind = step.begin().key();
     const QJsonValue value = step.begin().value();
+    if (kind == QLatin1String("menu"))
+        return chooseMenu(value.toString(), window);
+    if (kind == QLatin1String("file"))
+        return answerFileDialog(value.toString(), window);
     if (kind == QLatin1String("screenshot"))
         return screenshot(value.toString(), window);
     if (kind == QLatin1String("press"))
@@ -219,9 +233,49 @@ template <typename Action> void HST_ScriptRunner::postAction(Action action)
     post(this, action);
 }
 
+HST_ScriptRunner::Result HST_ScriptRunner::chooseMenu(const QString& path, QWidget* window)
+{
+    // The main window's menus: out of reach while a modal window is up.
+    auto* mainWindow = qobject_cast<QMainWindow*>(m_idleWindow.data());
+    if (window || !mainWindow)
+        return Result::Waiting;
+    QAction* found = HST_ScriptTargets::menuEntry(mainWindow, path);
+    if (!found || !found->isEnabled())
+        return Result::Waiting;
+    QPointer<QAction> guarded(found);
+    postAction([guarded] {
+        if (guarded)
+            guarded->trigger();
+    });
+    return Result::Done;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::answerFileDialog(const QString& path, QWidget* window)
+{
+    QPointer<QFileDialog> dialog(qobject_cast<QFileDialog*>(window));
+    if (!dialog)
+        return Result::Waiting;
+    postAction([dialog, path] {
+        if (!dialog)
+            return;
+        if (path.isEmpty()) {
+            dialog->reject();
+            return;
+        }
+        // Typed, as a user would: selectFile leaves a focused name field as it is.
+        if (auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+            name->setText(path);
+        else
+            dialog->selectFile(path);
+        // QFileDialog's own accept, which checks the name as the dialog's button does.
+        static_cast<QDialog*>(dialog.data())->accept();
+    });
+    return Result::Done;
+}
+
 HST_ScriptRunner::Result HST_ScriptRunner::click(const QString& target, QWidget* window)
 {
-    QPointer<QAbstractButton> guarded(findButton(target, window));
+    QPointer<QAbstractButton> guarded(HST_ScriptTargets::button(target, window));
     if (!guarded)
         return Result::Waiting;
     postAction([guarded] {
@@ -271,7 +325,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::visit(const QJsonArray& targets, QWid
     if (!m_visitReturned) {
         if (!isDialogWindow(window))
             return Result::Waiting;
-        QPointer<QAbstractButton> opener(findButton(targets.at(0).toString(), window));
+        QPointer<QAbstractButton> opener(
+            HST_ScriptTargets::button(targets.at(0).toString(), window));
         if (!opener)
             return Result::Waiting;
         m_visitWindow = window;
@@ -294,7 +349,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::visit(const QJsonArray& targets, QWid
         return Result::Waiting;
     QPointer<QWidget> opened(window);
     if (targets.at(1).isString()) {
-        QPointer<QAbstractButton> closer(findButton(targets.at(1).toString(), window));
+        QPointer<QAbstractButton> closer(
+            HST_ScriptTargets::button(targets.at(1).toString(), window));
         if (!closer)
             return Result::Waiting;
         postAction([closer] {
@@ -372,6 +428,20 @@ HST_ScriptRunner::Result HST_ScriptRunner::set(
                 combo->setCurrentIndex(index);
                 emit combo->activated(index);
             }
+        });
+        return Result::Done;
+    }
+    if (auto* list = qobject_cast<QListWidget*>(widget)) {
+        int row = value.isDouble() ? value.toInt() : -1;
+        for (int i = 0; i < list->count() && row < 0; ++i) {
+            if (list->item(i)->text() == value.toString())
+                row = i;
+        }
+        if (row < 0 || row >= list->count())
+            return Result::Waiting;
+        postAction([guarded, list, row] {
+            if (guarded)
+                list->setCurrentRow(row);
         });
         return Result::Done;
     }

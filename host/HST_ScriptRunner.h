@@ -26,8 +26,10 @@ struct HST_ScriptHost
 
 // Plays a list of steps against the application's active modal window, as a user would:
 // {"click": TEXT-OR-OBJECTNAME}, {"set": [OBJECTNAME, VALUE]}, {"js": CODE},
-// {"screenshot": FILE}, {"wait": MS}, {"visit": [OPENER, CLOSER]}; and against the host while no
-// plug-in runs: {"press": NAME}, {"open": NAME}, {"world": SCENARIO-PART}. README lists them.
+// {"screenshot": FILE}, {"wait": MS}, {"visit": [OPENER, CLOSER]}, {"file": PATH} (the active
+// file dialog); against the main window: {"menu": "Menu/Entry"}; and against the host while no
+// plug-in runs: {"press": NAME}, {"open": NAME}, {"world": SCENARIO-PART}. A step with
+// "window": NAME acts in that non-modal window or dock panel instead. README lists them.
 //
 // A modal dialog blocks whoever opened it, so the steps are driven by a polling timer, and
 // every action is posted rather than done in the timer's slot: an action that opens another
@@ -75,7 +77,9 @@ private slots:
 
 private:
     enum class Result { Done, Waiting };
-    Result act(const QJsonObject& step, QWidget* window);
+    Result act(QJsonObject step, QWidget* window);
+    Result chooseMenu(const QString& path, QWidget* window);
+    Result answerFileDialog(const QString& path, QWidget* window);
     Result click(const QString& target, QWidget* window);
     Result set(const QString& name, const QJsonValue& value, QWidget* window);
     Result runScript(const QString& code, QWidget* window);

@@ -12,3 +12,10 @@ inline QObject* APP_mediatorObject(JS_Mediator* mediator)
 {
     return reinterpret_cast<QObject*>(mediator);
 }
+
+// The other way, for a mediator the host got as a QObject (the plug-in's dialog factory makes
+// the mediators of pages the host shows itself).
+inline JS_Mediator* APP_mediatorFromObject(QObject* object)
+{
+    return reinterpret_cast<JS_Mediator*>(object);
+}

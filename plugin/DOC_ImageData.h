@@ -19,4 +19,7 @@ public:
     virtual bool isRotatedQuarter() = 0;
     virtual QString& comment(QString& out) = 0;
     virtual void setComment(const QString& text) = 0;
+    // The bit depths of the image format: what the image holds and what the sensor gave.
+    // False when the document has no image format.
+    virtual bool imageFormat(int& depth, int& realDepth) = 0;
 };

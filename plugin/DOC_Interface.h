@@ -43,4 +43,6 @@ public:
     virtual QString& partitionName(QString& out, int partition) = 0;
     virtual void refresh(bool now) = 0;
     virtual QString& sortName(QString& out) = 0;
+    // The multi-camera add-on holds this document's device locked.
+    virtual bool isRostraLocked() = 0;
 };

@@ -1,6 +1,7 @@
 #include "plugin/PLG_synccontrol.h"
 
 #include "plugin/APP_Host.h"
+#include "plugin/PLG_DialogFactory.h"
 #include "plugin/SharedKeys.h"
 #include "sync/GUI_SyncControl.h"
 #include "util/UTL_Barrier.h"
@@ -28,6 +29,9 @@ void PLG_synccontrol::setHost(APP_Host* host)
     PLG_Button::setHost(host);
     // Nobody has asked for anything yet: a failure is logged here, and execute tries again.
     UTL_Barrier::logged("PLG_synccontrol::setHost", [this] { makeDialog(); });
+    // A child, found by its name: the host's way to the file's other dialogs.
+    if (host && !findChild<PLG_DialogFactory*>(QString(), Qt::FindDirectChildrenOnly))
+        new (std::nothrow) PLG_DialogFactory(host, this);
 }
 
 void PLG_synccontrol::makeDialog()

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Regenerates the README's screenshots of the sync dialog under Xvfb (after tools/build.sh).
+# Regenerates the README's screenshots of the sync dialog and the common dialogs under Xvfb
+# (after tools/build.sh).
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 host="$root/build/host/tarvix4host"
@@ -9,9 +10,17 @@ shoot() { # scenario, picture
     local prefs; prefs="$(mktemp -d)/prefs.ini"
     printf '[{"wait": 500}, {"screenshot": "%s"}, {"click": "Sync quit"}]' "$2" > "$prefs.script"
     xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
-        --press synccontrol --script "$prefs.script" --quit > /dev/null
+        --press synccontrol --script "$prefs.script" --auto-answer --quit > /dev/null
+}
+# A panel or dialog of the plug-in file opened by name: scenario, page, picture, the window to grab.
+shoot_page() {
+    local prefs; prefs="$(mktemp -d)/prefs.ini"
+    printf '[{"wait": 800}, {"screenshot": "%s", "window": "%s"}]' "$3" "$4" > "$prefs.script"
+    xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
+        --open "$2" --script "$prefs.script" --quit > /dev/null
 }
 shoot "$root/tools/screenshots/external.json" "$out/external-no-distributor.png"
 shoot "$root/tools/screenshots/chain-nrack.json" "$out/chain-nrack.png"
 shoot "$root/host/scenarios/hubs.json" "$out/link-core-hubs.png"
+shoot_page "$root/host/scenarios/host-status.json" hoststatus "$out/host-status-panel.png" hoststatus
 ls -1 "$out"

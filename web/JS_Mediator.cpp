@@ -1,12 +1,18 @@
 #include "web/JS_Mediator.h"
 
 #include "plugin/APP_Host.h"
+#include "plugin/APP_PrefsDialog.h"
 #include "plugin/DOC_Interface.h"
 #include "plugin/SharedKeys.h"
 #include "util/FunctionLogGuard.h"
+#include "util/ScopeExit.h"
 #include "util/UTL_Barrier.h"
 #include "util/UTL_Messages.h"
 #include "util/UserOperationLog.h"
+#include "web/JS_ControlStatus.h"
+#include "web/JS_DeviceInfo.h"
+#include "web/JS_OrderedJson.h"
+#include "web/JS_SupportFileExport.h"
 #include "web/OperationEventHandler.h"
 
 #include <QDialog>
@@ -68,6 +74,12 @@ void JS_Mediator::addPrefsJSObject()
 {
     if (m_webView && m_webView->page())
         m_webView->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this);
+}
+
+QVariantList JS_Mediator::getDeviceInfoList(bool isMinilist)
+{
+    return UTL_Barrier::reported(
+        m_host, QVariantList(), [&] { return JS_DeviceInfo::list(m_host, isMinilist); });
 }
 
 void JS_Mediator::setStyle(const QString& style)
@@ -366,4 +378,152 @@ void JS_Mediator::setPrefDQString(const QString& name, const QString& value, boo
 {
     setPref("setPrefDQString", name, update,
         [&](const QString& key) { m_host->setPrefVariant(key, value); });
+}
+
+int JS_Mediator::openPrefsDialog(const QString& page)
+{
+    SYNC_TRACE(QStringLiteral("JS_Mediator::openPrefsDialog"),
+        FunctionLogGuard::parameter(QStringLiteral("page"), page));
+    return UTL_Barrier::reported(m_host, 0, [&] {
+        if (m_host->isCameraMode())
+            m_host->pauseLive();
+        APP_PrefsDialog* dialog = m_host->prefsDialog();
+        if (!dialog)
+            return 0;
+        dialog->selectPage(UTL_Messages::translate(m_host, page));
+        return dialog->run();
+    });
+}
+
+void JS_Mediator::openPrefsEthernetSettings()
+{
+    SYNC_TRACE(QStringLiteral("JS_Mediator::openPrefsEthernetSettings"), QString());
+    UTL_Barrier::reported(m_host, [this] { m_host->openEthernetSettings(); });
+}
+
+void JS_Mediator::openExportSupportFileDialog()
+{
+    SYNC_TRACE(QStringLiteral("JS_Mediator::openExportSupportFileDialog"), QString());
+    JS_SupportFileExport::run(m_host);
+}
+
+QString JS_Mediator::getControlStatus(DOC_Interface* pDoc)
+{
+    return UTL_Barrier::reported(
+        m_host, QString(), [&] { return JS_ControlStatus::build(m_host, pDoc); });
+}
+
+QVariantList JS_Mediator::getSelectedDockey()
+{
+    return UTL_Barrier::reported(m_host, QVariantList(), [this] {
+        QVariantList keys;
+        for (int key : m_host->documentKeys(0))
+            keys.append(QString::number(key));
+        return keys;
+    });
+}
+
+void JS_Mediator::setSelectDoc(const QString& docKey)
+{
+    const unsigned mask = m_updateMask;
+    m_updateMask = 63;
+    const ScopeExit restoreMask([&] { m_updateMask = mask; });
+    OperationEventHandler guard(this, QStringLiteral("JS_Mediator::setSelectDocSub"),
+        FunctionLogGuard::parameter(QStringLiteral("docKey"), docKey));
+    UTL_Barrier::reported(m_host, [&] {
+        m_host->deterUpdateUI(true);
+        const ScopeExit allow([this] {
+            UTL_Barrier::sealed(
+                m_host, "JS_Mediator::setSelectDoc", [this] { m_host->deterUpdateUI(false); });
+        });
+        bool ok = false;
+        const int key = docKey.toInt(&ok, 10);
+        QList<int> keys;
+        if (ok)
+            keys.append(key);
+        m_host->selectDocuments(keys);
+    });
+}
+
+void JS_Mediator::selectAllDocs()
+{
+    const unsigned mask = m_updateMask;
+    m_updateMask = 63;
+    const ScopeExit restoreMask([&] { m_updateMask = mask; });
+    UTL_Barrier::reported(m_host, [this] {
+        const int current = m_host->currentKey();
+        {
+            OperationEventHandler guard(
+                this, QStringLiteral("JS_Mediator::selectAllDocsSub"), QString());
+            m_host->deterUpdateUI(true);
+            const ScopeExit allow([this] {
+                UTL_Barrier::sealed(
+                    m_host, "JS_Mediator::selectAllDocs", [this] { m_host->deterUpdateUI(false); });
+            });
+            m_host->selectAllDocuments(this);
+        }
+        if (current != -1)
+            m_host->setCurrentDocument(current);
+    });
+}
+
+void JS_Mediator::copySelectAreaToClipboard()
+{
+    SYNC_TRACE(QStringLiteral("JS_Mediator::copySelectAreaToClipboard"), QString());
+    UTL_Barrier::reported(m_host, [this] { m_host->copySelectArea(2); });
+}
+
+QString JS_Mediator::getCalibrationUnits()
+{
+    return UTL_Barrier::reported(m_host, QString(), [this] {
+        const bool metric = m_host->getPrefInt(PREF_KEY_CUSTOMIZE_UNIT_SYSTEM, QVariant()) != 0;
+        const QStringList units = metric
+            ? QStringList { QStringLiteral("Micro (\u00b5m)"), QStringLiteral("Milimeters (mm)"),
+                  QStringLiteral("Meters (m)") }
+            : QStringList { QStringLiteral("Inches (in)"), QStringLiteral("Feet (ft)"),
+                  QStringLiteral("Yard (yd)") };
+        const QStringList views = metric
+            ? QStringList { QStringLiteral("\u00b5m"), QStringLiteral("mm"), QStringLiteral("m") }
+            : QStringList { QStringLiteral("inch"), QStringLiteral("feet"),
+                  QStringLiteral("yard") };
+        QString text = QStringLiteral("[");
+        for (int i = 0; i < units.size(); ++i) {
+            JS_OrderedJson unit;
+            unit.add(QStringLiteral("value"), units.at(i));
+            unit.add(QStringLiteral("view"), UTL_Messages::translate(m_host, views.at(i)));
+            text += (i > 0 ? QStringLiteral(",") : QString()) + unit.text();
+        }
+        return text + QStringLiteral("]");
+    });
+}
+
+int JS_Mediator::getRangeMax()
+{
+    return UTL_Barrier::reported(m_host, 0, [this] {
+        int depth = 8;
+        if (m_host->getPrefBool(PREF_KEY_DISPLAY_WITH_REAL_BIT_DEPTH, QVariant())) {
+            int formatDepth = 0;
+            int realDepth = 0;
+            DOC_Interface* doc = m_host->currentDocument();
+            if (doc && doc->imageFormat(formatDepth, realDepth))
+                depth = formatDepth > 8 ? realDepth : formatDepth;
+        }
+        // A depth the int can't hold is no image format: the plain 8 bits stand.
+        if (depth < 1 || depth > 30)
+            depth = 8;
+        return (1 << depth) - 1;
+    });
+}
+
+void JS_Mediator::setConnectedCameraShowing(bool check)
+{
+    UTL_Barrier::reported(m_host,
+        [&] { m_host->setPrefBool(PREF_KEY_DEVICEMANAGER_CONNECTED_CAMERA_ONLY_SHOWING, check); });
+}
+
+bool JS_Mediator::getConnectedCameraShowing()
+{
+    return UTL_Barrier::reported(m_host, false, [this] {
+        return m_host->getPrefBool(PREF_KEY_DEVICEMANAGER_CONNECTED_CAMERA_ONLY_SHOWING, false);
+    });
 }

@@ -10,6 +10,7 @@
 #include <exception>
 
 class APP_Host;
+class DOC_Interface;
 class QWebView;
 
 // Root of every object that pages talk to. Pages call its public slots and get plain values;
@@ -48,6 +49,9 @@ public slots:
     virtual double getSkipFrames();
     virtual bool isFileMode();
     virtual void addPrefsJSObject();
+    // One compact JSON entry per document; isMinilist in camera mode may leave out the
+    // documents that aren't connected ("devicemanager/connectedCameraOnlyShowing").
+    virtual QVariantList getDeviceInfoList(bool isMinilist);
 
     double getSkipMinFrames() { return m_skipMinFrames; }
     double getSkipMaxFrames() { return m_skipMaxFrames; }
@@ -103,6 +107,23 @@ public slots:
     void setPrefFloat(const QString& name, float value, bool update = true);
     void setPrefString(const QString& name, const QString& value, bool update = true);
     void setPrefDQString(const QString& name, const QString& value, bool update = true);
+
+    // Preferences dialog, status and documents.
+    int openPrefsDialog(const QString& page = QString());
+    void openPrefsEthernetSettings();
+    void openExportSupportFileDialog();
+    // Every status name with its bool, as compact JSON in the host's order; pDoc null: the
+    // current document. Empty when a host query failed.
+    QString getControlStatus(DOC_Interface* pDoc = nullptr);
+    QVariantList getSelectedDockey();
+    // A text that is no decimal number clears the selection.
+    void setSelectDoc(const QString& docKey);
+    void selectAllDocs();
+    void copySelectAreaToClipboard();
+    QString getCalibrationUnits();
+    int getRangeMax();
+    void setConnectedCameraShowing(bool check);
+    bool getConnectedCameraShowing();
 
 protected:
     APP_Host* m_host;

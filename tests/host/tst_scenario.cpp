@@ -63,6 +63,15 @@ void tst_Scenario::read_data()
     QTest::newRow("fault whose key names no operation")
         << QString() << QByteArray("{\"faults\": {\"Sync now\": \"x\"}}")
         << QStringList { "\"faults.Sync now\"", "not the name of a host operation" };
+    QTest::newRow("status the host derives from its own state")
+        << QString() << QByteArray("{\"status\": {\"IsNoneWindow\": true}}")
+        << QStringList { "\"status.IsNoneWindow\"", "can't be set", "\"cameras\", \"files\"" };
+    QTest::newRow("status name the host doesn't know")
+        << QString() << QByteArray("{\"status\": {\"IsFlying\": true}}")
+        << QStringList { "\"status.IsFlying\"", "not a status name" };
+    QTest::newRow("recording status out of range")
+        << QString() << QByteArray("{\"recordingStatus\": 5}")
+        << QStringList { "\"recordingStatus\"", "outside 0 to 4" };
     QTest::newRow("fault in steps without a text")
         << QString() << QByteArray("{\"faults\": {\"translate\": {\"steps\": [1]}}}")
         << QStringList { "\"faults.translate\"", "no text" };

@@ -1,0 +1,67 @@
+#include "plugin/PLG_PageRegistry.h"
+
+#include "generator/DOC_VIGen.h"
+#include "generator/GUI_SyncSignalGeneratorConnect.h"
+#include "plugin/APP_Host.h"
+#include "plugin/SharedKeys.h"
+#include "util/ScopeExit.h"
+#include "web/JS_Mediator_Page.h"
+
+#include <QDialog>
+#include <QPointer>
+
+namespace {
+
+// The generator connect dialog on a driver of its own: the address it accepts is stored, and
+// Cancel keeps the one stored before, as from the sync dialog.
+int openGeneratorConnect(const PLG_DialogContext& context)
+{
+    APP_Host* host = context.host;
+    QString before;
+    host->getPrefString(before, PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, QVariant());
+    DOC_VIGen generator(host);
+    generator.loadLibrary();
+    const int result = PLG_PageRegistry::exec(
+        new GUI_SyncSignalGeneratorConnect(host, context.parent, &generator));
+    if (result != QDialog::Accepted)
+        host->setPrefString(PREF_KEY_SYNCCONTROL_GENERATOR_ADDRESS, before);
+    generator.disconnect();
+    return result;
+}
+
+JS_Mediator* makeHostStatusMediator(const PLG_DialogContext& context)
+{
+    return new JS_Mediator_Page(context.host, QStringLiteral("hoststatus"));
+}
+
+const PLG_PageEntry pageTable[] = {
+    { "sync_signal_generator_connect", PLG_PageKind::Dialog, "Connect with signal generator",
+        &openGeneratorConnect, nullptr, nullptr },
+    { "hoststatus", PLG_PageKind::Page, "Host status", nullptr, nullptr, &makeHostStatusMediator },
+};
+
+} // namespace
+
+QList<const PLG_PageEntry*> PLG_PageRegistry::entries()
+{
+    QList<const PLG_PageEntry*> list;
+    for (const PLG_PageEntry& entry : pageTable)
+        list.append(&entry);
+    return list;
+}
+
+const PLG_PageEntry* PLG_PageRegistry::find(const QString& page)
+{
+    for (const PLG_PageEntry& entry : pageTable) {
+        if (page == QLatin1String(entry.page))
+            return &entry;
+    }
+    return nullptr;
+}
+
+int PLG_PageRegistry::exec(QDialog* dialog)
+{
+    QPointer<QDialog> guarded(dialog);
+    const ScopeExit remove([guarded] { delete guarded.data(); });
+    return dialog->exec();
+}
