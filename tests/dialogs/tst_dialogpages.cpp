@@ -255,34 +255,39 @@ void tst_DialogPages::customInfoFile()
 
 void tst_DialogPages::customInfoForms_data()
 {
-    QTest::addColumn<QString>("arg");
+    QTest::addColumn<QString>("open"); // --open, or a menu entry of the main window
     QTest::addColumn<QString>("shown"); // devices listed | chosen | flag column; empty: refused
 
-    QTest::newRow("all documents, the current one chosen") << ""
+    QTest::newRow("all documents, the current one chosen") << "custominfo"
                                                            << "Front,Side,old|Front|Display";
-    QTest::newRow("the file name flag") << "2"
+    QTest::newRow("the file name flag") << "custominfo:2"
                                         << "Front,Side,old|Front|File name";
-    QTest::newRow("temporary documents only") << "15:temporary"
+    QTest::newRow("temporary documents only") << "custominfo:15:temporary"
                                               << "old|old|Display";
-    QTest::newRow("temporary, the type left out") << "temporary"
+    QTest::newRow("temporary, the type left out") << "custominfo:temporary"
                                                   << "old|old|Display";
-    QTest::newRow("a type that names no flag") << "7"
+    QTest::newRow("from the Info menu") << "Info/Custom info for file names..."
+                                        << "Front,Side,old|Front|File name";
+    QTest::newRow("a type that names no flag") << "custominfo:7"
                                                << "";
-    QTest::newRow("an unknown form") << "15:forever"
+    QTest::newRow("an unknown form") << "custominfo:15:forever"
                                      << "";
 }
 
 void tst_DialogPages::customInfoForms()
 {
-    QFETCH(QString, arg);
+    QFETCH(QString, open);
     QFETCH(QString, shown);
-    const QJsonArray script = shown.isEmpty()
+    QJsonArray script = shown.isEmpty()
         ? QJsonArray()
         : steps({ js("[$('#devices tbody tr').map(function () {"
                      " return $(this).children().eq(1).text(); }).get().join(),"
                      " custominfoPage.chosenDevices().join(), $('#flagHeader').text()].join('|')"),
             js("$('#custominfo_cancel').click(); 0") });
-    const Run run = this->run(customScenario, QStringLiteral("custominfo:") + arg, script);
+    const bool menu = open.contains(QLatin1Char('/'));
+    if (menu)
+        script.prepend(QJsonObject { { QStringLiteral("menu"), open } });
+    const Run run = this->run(customScenario, menu ? QString() : open, script);
     QCOMPARE(run.code, 0);
     QCOMPARE(run.result, shown.isEmpty() ? -1 : 0);
     QCOMPARE(run.of("reportException").size(), shown.isEmpty() ? 1 : 0);
