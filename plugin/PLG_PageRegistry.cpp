@@ -3,6 +3,7 @@
 #include "generator/DOC_VIGen.h"
 #include "generator/GUI_SyncSignalGeneratorConnect.h"
 #include "plugin/APP_Host.h"
+#include "plugin/PLG_DeviceInfoPages.h"
 #include "plugin/SharedKeys.h"
 #include "util/ScopeExit.h"
 #include "web/JS_Mediator_Page.h"
@@ -38,6 +39,15 @@ const PLG_PageEntry pageTable[] = {
     { "sync_signal_generator_connect", PLG_PageKind::Dialog, "Connect with signal generator",
         &openGeneratorConnect, nullptr, nullptr },
     { "hoststatus", PLG_PageKind::Page, "Host status", nullptr, nullptr, &makeHostStatusMediator },
+    // The device and custom info dialogs.
+    { "custominfo", PLG_PageKind::Dialog, "Custom info", &PLG_DeviceInfoPages::openCustomInfo,
+        nullptr, nullptr },
+    { "livecontrol_adddevice", PLG_PageKind::Dialog, "Add Device",
+        &PLG_DeviceInfoPages::openAddDevice, nullptr, nullptr },
+    { "livecontrol_editdevice", PLG_PageKind::Dialog, "Edit Device",
+        &PLG_DeviceInfoPages::openEditDevice, nullptr, nullptr },
+    { "livecontrol_searchsetting", PLG_PageKind::Dialog, "Camera Network Setting",
+        &PLG_DeviceInfoPages::openSearchSetting, nullptr, nullptr },
 };
 
 } // namespace

@@ -19,8 +19,27 @@ shoot_page() {
     xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
         --open "$2" --script "$prefs.script" --quit > /dev/null
 }
+# A dialog of the plug-in file opened by name: scenario, page[:arg], picture, what the page does
+# first (script), the button that then cancels it. Run from the root, where the scenarios find
+# the camera name list.
+shoot_dialog() {
+    local prefs; prefs="$(mktemp -d)/prefs.ini"
+    printf '[{"js": "%s; 0"}, {"wait": 800}, {"screenshot": "%s"}, {"js": "$(\x27#%s\x27).click(); 0"}]' \
+        "$4" "$3" "$5" > "$prefs.script"
+    (cd "$root" && xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
+        --open "$2" --script "$prefs.script" --quit > /dev/null)
+}
 shoot "$root/tools/screenshots/external.json" "$out/external-no-distributor.png"
 shoot "$root/tools/screenshots/chain-nrack.json" "$out/chain-nrack.png"
 shoot "$root/host/scenarios/hubs.json" "$out/link-core-hubs.png"
 shoot_page "$root/host/scenarios/host-status.json" hoststatus "$out/host-status-panel.png" hoststatus
+shoot_dialog "$root/host/scenarios/custom-info.json" custominfo "$out/custom-info.png" \
+    "\$('#devices tbody tr').eq(1).find('input').click(); \$('#items tbody tr').eq(0).click()" \
+    custominfo_cancel
+shoot_dialog "$root/host/scenarios/devices.json" livecontrol_adddevice "$out/add-device.png" \
+    "\$('#cameraName').val('ea').catcomplete('search', 'ea')" adddevice_cancel
+shoot_dialog "$root/host/scenarios/devices.json" livecontrol_editdevice "$out/edit-device.png" \
+    "0" editdevice_cancel
+shoot_dialog "$root/host/scenarios/devices.json" livecontrol_searchsetting \
+    "$out/camera-search-setting.png" "0" searchsetting_cancel
 ls -1 "$out"
