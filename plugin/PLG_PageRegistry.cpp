@@ -4,6 +4,8 @@
 #include "generator/GUI_SyncSignalGeneratorConnect.h"
 #include "plugin/APP_Host.h"
 #include "plugin/SharedKeys.h"
+#include "save/FileDialogKind.h"
+#include "save/SavePages.h"
 #include "util/ScopeExit.h"
 #include "web/JS_Mediator_Page.h"
 
@@ -38,6 +40,21 @@ const PLG_PageEntry pageTable[] = {
     { "sync_signal_generator_connect", PLG_PageKind::Dialog, "Connect with signal generator",
         &openGeneratorConnect, nullptr, nullptr },
     { "hoststatus", PLG_PageKind::Page, "Host status", nullptr, nullptr, &makeHostStatusMediator },
+    // The file dialogs go by their kind's name; all show qrc:/filedialog.html.
+    { FileDialogKind::save, PLG_PageKind::Dialog, "Save",
+        &SavePages::openFileDialog<FileDialogKind::save>, nullptr, nullptr },
+    { FileDialogKind::snapshot, PLG_PageKind::Dialog, "Snapshot",
+        &SavePages::openFileDialog<FileDialogKind::snapshot>, nullptr, nullptr },
+    { FileDialogKind::convert, PLG_PageKind::Dialog, "Batch conversion",
+        &SavePages::openFileDialog<FileDialogKind::convert>, nullptr, nullptr },
+    { FileDialogKind::report, PLG_PageKind::Dialog, "Report output",
+        &SavePages::openFileDialog<FileDialogKind::report>, nullptr, nullptr },
+    { FileDialogKind::open, PLG_PageKind::Dialog, "Open",
+        &SavePages::openFileDialog<FileDialogKind::open>, nullptr, nullptr },
+    { "addnumberdialog", PLG_PageKind::Dialog, "Adding a number", &SavePages::openAddNumberDialog,
+        nullptr, nullptr },
+    { "convertparametereditdialog", PLG_PageKind::Dialog, "Saved after the automatic conversion",
+        &SavePages::openConvertParameterEditDialog, nullptr, nullptr },
 };
 
 } // namespace
