@@ -2,6 +2,7 @@
 
 #include "host/HST_CameraState.h"
 #include "host/HST_DialogOpener.h"
+#include "host/HST_FileDialogMenu.h"
 #include "host/HST_Document.h"
 #include "host/HST_DocumentArea.h"
 #include "host/HST_Host.h"
@@ -101,7 +102,8 @@ void HST_MainWindow::buildMenus()
     openFile->setObjectName(QStringLiteral("host_openFile"));
     connect(openFile, &QAction::triggered, m_host, [this] { m_host->addFileDocument(); });
     file->addAction(findChild<QAction*>(QStringLiteral("host_closeDocument")));
-    file->addSeparator();
+    m_fileMenu = file;
+    m_fileDialogPlace = file->addSeparator();
     connect(file->addAction(QStringLiteral("Quit")), &QAction::triggered, this, &QWidget::close);
 
     QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
@@ -160,7 +162,10 @@ void HST_MainWindow::buildMenus()
 
 void HST_MainWindow::addPageActions()
 {
+    HST_FileDialogMenu::add(m_fileMenu, m_fileDialogPlace, m_opener, m_host);
     for (const HST_DialogOpener::Page& page : m_opener->pages()) {
+        if (HST_FileDialogMenu::isFileDialog(page.name))
+            continue;
         const QString title = m_host->translatedText(page.title);
         QMenu* menu = page.kind == QLatin1String("dialog") ? m_toolsMenu : m_viewMenu;
         QAction* action = menu->addAction(
