@@ -243,7 +243,8 @@ QString JS_Mediator_FileDialog::capcityToString(const QVariantList& selects)
     quint64 sum = 0;
     for (const QVariant& entry : selects) {
         bool ok = false;
-        const qulonglong bytes = entry.toULongLong(&ok);
+        // By its text, so that a negative number is no count.
+        const qulonglong bytes = entry.toString().toULongLong(&ok);
         // A count that would overflow stops at the largest size there is.
         if (ok)
             sum = bytes > std::numeric_limits<quint64>::max() - sum
