@@ -480,7 +480,10 @@ HST_ScriptRunner::Result HST_ScriptRunner::runScript(const QString& code, QWidge
             }
         }
     }
-    if (!view)
+    // A page still loading has no scripts to call yet.
+    if (!view
+        || view->page()->mainFrame()->evaluateJavaScript(QStringLiteral("document.readyState"))
+            != QLatin1String("complete"))
         return Result::Waiting;
     QPointer<QWebView> guarded(view);
     HST_Recorder* recorder = m_recorder;
