@@ -15,7 +15,7 @@ class HST_Preview
 public:
     HST_Preview() = delete;
 
-    static const int largest = 4096;
+    static constexpr int largest = 4096;
 
     // One frame of the partition at its resolution (or the size given).
     static QImage frame(int key, const QString& title, const HST_PartitionSpec& partition,

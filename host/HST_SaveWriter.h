@@ -26,7 +26,7 @@ public:
         int framesPerSecond = 30;
     };
 
-    static const int maxFrames = 8;
+    static constexpr int maxFrames = 8;
 
     // Checks everything first and throws APP_Exception, writing nothing, for a format or codec
     // it doesn't make, a partition the document hasn't or an empty path; then writes, and

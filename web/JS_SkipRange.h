@@ -24,5 +24,5 @@ public:
     // them, so that a huge recording can't take the memory.
     static QList<double> steps(double step, double max);
 
-    static const int maxSteps = 1 << 16;
+    static constexpr int maxSteps = 1 << 16;
 };
