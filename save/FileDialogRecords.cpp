@@ -4,7 +4,6 @@
 #include "plugin/DOC_Interface.h"
 #include "plugin/SharedKeys.h"
 #include "util/UTL_DocumentOrder.h"
-#include "web/JS_OrderedJson.h"
 
 namespace {
 
@@ -27,12 +26,110 @@ bool isMedia(DOC_Interface* document)
     return document->isOnSd() || document->isOnStorageUnit() || document->isOnCFast();
 }
 
+// Appends one record straight to the list's text: a table of a thousand rows is built at
+// every refresh of the page.
+class Record
+{
+public:
+    explicit Record(QString& out)
+        : m_out(out)
+    {
+        m_out += QLatin1Char('{');
+    }
+    ~Record() { m_out += QLatin1Char('}'); }
+    Record(const Record&) = delete;
+    Record& operator=(const Record&) = delete;
+
+    void add(QLatin1String key, const QString& value)
+    {
+        name(key);
+        quote(value);
+    }
+    void add(const QString& key, const QString& value)
+    {
+        name(key);
+        quote(value);
+    }
+    void add(QLatin1String key, int value)
+    {
+        name(key);
+        m_out += QString::number(value);
+    }
+    void add(QLatin1String key, bool value)
+    {
+        name(key);
+        m_out += value ? QLatin1String("true") : QLatin1String("false");
+    }
+
+private:
+    template <typename Key> void name(const Key& key)
+    {
+        if (m_fields++ > 0)
+            m_out += QLatin1Char(',');
+        m_out += QLatin1Char('"');
+        m_out += key;
+        m_out += QLatin1String("\":");
+    }
+    void quote(const QString& value)
+    {
+        m_out += QLatin1Char('"');
+        for (const QChar c : value) {
+            const ushort u = c.unicode();
+            if (u == '"' || u == '\\')
+                m_out += QLatin1Char('\\');
+            if (u < 0x20)
+                m_out += QStringLiteral("\\u%1").arg(u, 4, 16, QLatin1Char('0'));
+            else
+                m_out += c;
+        }
+        m_out += QLatin1Char('"');
+    }
+
+    QString& m_out;
+    int m_fields = 0;
+};
+
 QList<QVariantMap> partitionRows(const QVariantMap& top)
 {
     QList<QVariantMap> rows;
     for (const QVariant& row : top.value(QStringLiteral("partitions")).toList())
         rows.append(row.toMap());
     return rows;
+}
+
+// The fields every record takes from the document's map.
+void addTopFields(Record& record, const QVariantMap& top, bool cameraForm)
+{
+    if (cameraForm) {
+        for (const char* key : { "cameraname", "ipaddress", "slotno" })
+            record.add(QLatin1String(key), text(top, key));
+    }
+    for (const char* key : { "devicename", "date", "time", "shutterspeed", "recordrate" })
+        record.add(QLatin1String(key), text(top, key));
+    for (const char* key : reportFields) {
+        if (top.contains(QLatin1String(key)))
+            record.add(QLatin1String(key), text(top, key));
+    }
+    for (int n = 1;; ++n) {
+        const QString key = QStringLiteral("Custom_%1").arg(n);
+        const auto found = top.constFind(key);
+        if (found == top.constEnd())
+            break;
+        record.add(key, found.value().toString());
+    }
+    record.add(QLatin1String("Comments"), text(top, "Comments"));
+}
+
+void addRowFields(Record& record, const QVariantMap& row, int partitionNo, bool cameraForm)
+{
+    record.add(QLatin1String("partitionno"), QString::number(partitionNo));
+    for (const char* key : { "currentpartition", "totalframes", "resolution" })
+        record.add(QLatin1String(key), text(row, key));
+    record.add(QLatin1String("saveframes"), text(row, "exportframes"));
+    if (cameraForm) {
+        record.add(QLatin1String("capacity"), text(row, "capacity"));
+        record.add(QLatin1String("capacitylabel"), text(row, "capacitylabel"));
+    }
 }
 
 } // namespace
@@ -79,7 +176,7 @@ QString FileDialogRecords::list(bool temporary)
         && m_host->getPrefBool(PREF_KEYS_EXPORT.savescale, QVariant());
 
     m_recid = 0;
-    m_rows.clear();
+    m_text = QStringLiteral("[");
     m_documentKeys.clear();
     const bool fileList = m_host->saveTargetKind() == 2;
     Flags flags;
@@ -111,47 +208,8 @@ QString FileDialogRecords::list(bool temporary)
         if (m_recid != before)
             m_documentKeys.append(key);
     }
-    return QLatin1Char('[') + m_rows.join(QLatin1Char(',')) + QLatin1Char(']');
-}
-
-void FileDialogRecords::give(const JS_OrderedJson& record)
-{
-    m_rows.append(record.text());
-}
-
-void FileDialogRecords::addTopFields(
-    JS_OrderedJson& record, const QVariantMap& top, bool cameraForm)
-{
-    if (cameraForm) {
-        for (const char* key : { "cameraname", "ipaddress", "slotno" })
-            record.add(QLatin1String(key), text(top, key));
-    }
-    for (const char* key : { "devicename", "date", "time", "shutterspeed", "recordrate" })
-        record.add(QLatin1String(key), text(top, key));
-    for (const char* key : reportFields) {
-        if (top.contains(QLatin1String(key)))
-            record.add(QLatin1String(key), text(top, key));
-    }
-    for (int n = 1;; ++n) {
-        const QString key = QStringLiteral("Custom_%1").arg(n);
-        if (!top.contains(key))
-            break;
-        record.add(key, top.value(key).toString());
-    }
-    record.add(QStringLiteral("Comments"), text(top, "Comments"));
-}
-
-void FileDialogRecords::addRowFields(
-    JS_OrderedJson& record, const QVariantMap& row, int partitionNo, bool cameraForm)
-{
-    record.add(QStringLiteral("partitionno"), QString::number(partitionNo));
-    for (const char* key : { "currentpartition", "totalframes", "resolution" })
-        record.add(QLatin1String(key), text(row, key));
-    record.add(QStringLiteral("saveframes"), text(row, "exportframes"));
-    if (cameraForm) {
-        record.add(QStringLiteral("capacity"), text(row, "capacity"));
-        record.add(QStringLiteral("capacitylabel"), text(row, "capacitylabel"));
-    }
+    m_text += QLatin1Char(']');
+    return m_text;
 }
 
 void FileDialogRecords::fileRows(DOC_Interface* document, const QVariantMap& top)
@@ -168,30 +226,31 @@ void FileDialogRecords::fileRows(DOC_Interface* document, const QVariantMap& top
         // An empty partition takes its number but no row.
         if (!hasFrames(row))
             continue;
-        JS_OrderedJson record;
-        record.add(QStringLiteral("recid"), ++m_recid);
-        record.add(QStringLiteral("multiskip"), multiskip);
-        record.add(QStringLiteral("dockey"), text(top, "dockey"));
-        record.add(QStringLiteral("selected"), text(top, "selected"));
+        if (m_recid > 0)
+            m_text += QLatin1Char(',');
+        Record record(m_text);
+        record.add(QLatin1String("recid"), ++m_recid);
+        record.add(QLatin1String("multiskip"), multiskip);
+        record.add(QLatin1String("dockey"), text(top, "dockey"));
+        record.add(QLatin1String("selected"), text(top, "selected"));
         if (media) {
-            record.add(QStringLiteral("dataname"), text(top, "name"));
-            record.add(QStringLiteral("filename"), text(top, "name"));
-            record.add(QStringLiteral("filepath"), text(top, "filepath"));
-            record.add(QStringLiteral("path"), text(top, "drivename"));
-            record.add(QStringLiteral("serialno"), serialNo);
-            record.add(QStringLiteral("datano"), dataNo);
+            record.add(QLatin1String("dataname"), text(top, "name"));
+            record.add(QLatin1String("filename"), text(top, "name"));
+            record.add(QLatin1String("filepath"), text(top, "filepath"));
+            record.add(QLatin1String("path"), text(top, "drivename"));
+            record.add(QLatin1String("serialno"), serialNo);
+            record.add(QLatin1String("datano"), dataNo);
             if (red)
-                record.add(QStringLiteral("style"), QStringLiteral("background-color:red;"));
+                record.add(QLatin1String("style"), QStringLiteral("background-color:red;"));
         } else {
-            record.add(QStringLiteral("filename"),
+            record.add(QLatin1String("filename"),
                 row.contains(QStringLiteral("filename")) ? text(row, "filename")
                                                          : text(top, "filename"));
-            record.add(QStringLiteral("filepath"), text(top, "filepath"));
-            record.add(QStringLiteral("path"), text(top, "filepath"));
+            record.add(QLatin1String("filepath"), text(top, "filepath"));
+            record.add(QLatin1String("path"), text(top, "filepath"));
         }
         addTopFields(record, top, false);
         addRowFields(record, row, i + 1, false);
-        give(record);
     }
 }
 
@@ -215,19 +274,20 @@ void FileDialogRecords::cameraRows(
         }
         if (!passes || !hasFrames(row))
             continue;
-        JS_OrderedJson record;
-        record.add(QStringLiteral("recid"), ++m_recid);
-        record.add(QStringLiteral("multiskip"), multiskip);
-        record.add(QStringLiteral("dockey"), text(top, "dockey"));
-        record.add(QStringLiteral("selected"),
+        if (m_recid > 0)
+            m_text += QLatin1Char(',');
+        Record record(m_text);
+        record.add(QLatin1String("recid"), ++m_recid);
+        record.add(QLatin1String("multiskip"), multiskip);
+        record.add(QLatin1String("dockey"), text(top, "dockey"));
+        record.add(QLatin1String("selected"),
             selected ? QStringLiteral("true") : QStringLiteral("false"));
-        record.add(QStringLiteral("filename"),
+        record.add(QLatin1String("filename"),
             row.contains(QStringLiteral("filename")) ? text(row, "filename")
                                                      : text(top, "filename"));
-        record.add(QStringLiteral("filepath"), text(top, "filepath"));
-        record.add(QStringLiteral("path"), text(top, "filepath"));
+        record.add(QLatin1String("filepath"), text(top, "filepath"));
+        record.add(QLatin1String("path"), text(top, "filepath"));
         addTopFields(record, top, true);
         addRowFields(record, row, number, true);
-        give(record);
     }
 }

@@ -6,12 +6,10 @@
 #include <QPair>
 #include <QSet>
 #include <QString>
-#include <QStringList>
 #include <QVariantMap>
 
 class APP_Host;
 class DOC_Interface;
-class JS_OrderedJson;
 
 // The rows of a file dialog's table: one JSON record per partition that can be saved, built
 // from the host's description of each document. Files (the host in file mode) list every
@@ -44,17 +42,12 @@ private:
     QList<int> keysToList(bool temporary);
     void fileRows(DOC_Interface* document, const QVariantMap& top);
     void cameraRows(DOC_Interface* document, const QVariantMap& top, const Flags& flags);
-    // The fields every record takes from the document's map.
-    void addTopFields(JS_OrderedJson& record, const QVariantMap& top, bool cameraForm);
-    void addRowFields(
-        JS_OrderedJson& record, const QVariantMap& row, int partitionNo, bool cameraForm);
-    void give(const JS_OrderedJson& record);
 
     APP_Host* m_host;
     FileDialogKind m_kind;
     bool m_savedCheckDone = false;
     QSet<QPair<QString, QString>> m_saved;
     int m_recid = 0;
-    QStringList m_rows;
+    QString m_text;
     QList<int> m_documentKeys;
 };
