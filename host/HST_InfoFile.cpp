@@ -39,7 +39,7 @@ QMap<QString, QString> HST_InfoFile::parse(const QByteArray& bytes)
         if (equals <= 0)
             continue;
         const QString key = QString::fromUtf8(line.left(equals)).trimmed();
-        if (!fields.contains(key))
+        if (!key.isEmpty() && !fields.contains(key))
             fields.insert(key, QString::fromUtf8(line.mid(equals + 1)).trimmed());
     }
     return fields;
