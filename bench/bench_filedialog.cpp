@@ -104,7 +104,8 @@ int main(int argc, char** argv)
         const QString target = dir.filePath(QStringLiteral("out"));
         QDir().mkpath(target);
         for (int s = 1; s <= 100; ++s) {
-            QFile file(QStringLiteral("%1/shot_S%2.png").arg(target).arg(s, 4, 10, QLatin1Char('0')));
+            QFile file(
+                QStringLiteral("%1/shot_S%2.png").arg(target).arg(s, 4, 10, QLatin1Char('0')));
             file.open(QIODevice::WriteOnly);
         }
         HST_Scenario scenario = cameras(16, 8);

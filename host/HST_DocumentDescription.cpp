@@ -56,6 +56,8 @@ QVariantMap HST_DocumentDescription::of(const HST_Document& document, bool conve
         top.insert(QStringLiteral("serialno"), spec.media.serialNo);
         top.insert(QStringLiteral("datano"), spec.media.dataNo);
         top.insert(QStringLiteral("slotno"), QString::number(spec.media.slot + 1));
+        top.insert(QStringLiteral("date"), spec.media.date);
+        top.insert(QStringLiteral("time"), spec.media.time);
     }
     int custom = 0;
     for (const QVariant& item : document.customItems()) {

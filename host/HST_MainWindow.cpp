@@ -2,9 +2,9 @@
 
 #include "host/HST_CameraState.h"
 #include "host/HST_DialogOpener.h"
-#include "host/HST_FileDialogMenu.h"
 #include "host/HST_Document.h"
 #include "host/HST_DocumentArea.h"
+#include "host/HST_FileDialogMenu.h"
 #include "host/HST_Host.h"
 #include "host/HST_PagePanel.h"
 #include "host/HST_Recorder.h"

@@ -121,6 +121,8 @@ QList<HST_DocumentSpec> HST_Media::recordingDocuments(const Slot& slot) const
         document.media.drive = slot.spec.drive;
         document.media.serialNo = serialNumber(slot.camera);
         document.media.dataNo = QString::number(r + 1);
+        document.media.date = recording.date;
+        document.media.time = recording.time;
         document.media.camera = slot.camera;
         document.media.slot = slot.index;
         document.media.recording = r;

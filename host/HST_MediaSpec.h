@@ -53,6 +53,9 @@ struct HST_MediaLink
     QString drive;
     QString serialNo;
     QString dataNo;
+    // When it was recorded: "yyyy/M/d", "HH:mm:ss".
+    QString date;
+    QString time;
     // The camera (by index), slot and recording of the media model.
     int camera = -1;
     int slot = -1;

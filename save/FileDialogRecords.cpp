@@ -280,8 +280,8 @@ void FileDialogRecords::cameraRows(
         record.add(QLatin1String("recid"), ++m_recid);
         record.add(QLatin1String("multiskip"), multiskip);
         record.add(QLatin1String("dockey"), text(top, "dockey"));
-        record.add(QLatin1String("selected"),
-            selected ? QStringLiteral("true") : QStringLiteral("false"));
+        record.add(
+            QLatin1String("selected"), selected ? QStringLiteral("true") : QStringLiteral("false"));
         record.add(QLatin1String("filename"),
             row.contains(QStringLiteral("filename")) ? text(row, "filename")
                                                      : text(top, "filename"));

@@ -27,7 +27,7 @@ GUI_FileSaveDialog::GUI_FileSaveDialog(APP_Host* host, QWidget* parent, const QS
     connect(
         files, &JS_Mediator_FileSaveDialog::applyAction, this, &GUI_FileSaveDialog::saveAndStay);
     connect(files, &JS_Mediator_FileSaveDialog::cancelAction, this, &QDialog::reject);
-    setFixedSize(1060, files->kind().isOpen() ? 620 : 700);
+    setFixedSize(1060, 700);
 }
 
 JS_Mediator_FileSaveDialog* GUI_FileSaveDialog::fileMediator() const

@@ -50,14 +50,19 @@ void tst_SaveWriter::formats_data()
     QTest::addColumn<QByteArray>("head"); // the file's first bytes, or "" for a picture
     QTest::addColumn<int>("skip");
     QTest::addColumn<int>("frames"); // in a movie or raw file
-    QTest::newRow("PNG") << "png" << "a.png" << QByteArray() << 1 << 0;
-    QTest::newRow("BMP") << "BMP" << "a.bmp" << QByteArray() << 1 << 0;
-    QTest::newRow("TIFF") << "TIFF" << "a.tif" << QByteArray() << 1 << 0;
-    QTest::newRow("JPEG") << "JPEG" << "a.jpg" << QByteArray() << 1 << 0;
-    QTest::newRow("raw: every 7th frame of 30") << "RAWQ" << "a.rawq" << QByteArray("SIMRAW1") << 7
-                                                << 5;
-    QTest::newRow("AVI: at most the writer's count") << "AVI" << "a.avi" << QByteArray("RIFF")
-                                                     << 1 << HST_SaveWriter::maxFrames;
+    QTest::newRow("PNG") << "png"
+                         << "a.png" << QByteArray() << 1 << 0;
+    QTest::newRow("BMP") << "BMP"
+                         << "a.bmp" << QByteArray() << 1 << 0;
+    QTest::newRow("TIFF") << "TIFF"
+                          << "a.tif" << QByteArray() << 1 << 0;
+    QTest::newRow("JPEG") << "JPEG"
+                          << "a.jpg" << QByteArray() << 1 << 0;
+    QTest::newRow("raw: every 7th frame of 30") << "RAWQ"
+                                                << "a.rawq" << QByteArray("SIMRAW1") << 7 << 5;
+    QTest::newRow("AVI: at most the writer's count")
+        << "AVI"
+        << "a.avi" << QByteArray("RIFF") << 1 << HST_SaveWriter::maxFrames;
 }
 
 void tst_SaveWriter::formats()
@@ -110,11 +115,14 @@ void tst_SaveWriter::refused_data()
     QTest::addColumn<QString>("codec");
     QTest::addColumn<int>("partition");
     QTest::addColumn<QString>("text");
-    QTest::newRow("a format it doesn't make") << "MOV" << "" << 2 << "The host can't write MOV files.";
-    QTest::newRow("a codec it doesn't make") << "AVI" << "DIVX" << 2
-                                             << "The host can't write the codec \"DIVX\".";
-    QTest::newRow("a partition the document hasn't") << "PNG" << "" << 9
-                                                     << "The document has no partition 9.";
+    QTest::newRow("a format it doesn't make") << "MOV"
+                                              << "" << 2 << "The host can't write MOV files.";
+    QTest::newRow("a codec it doesn't make")
+        << "AVI"
+        << "DIVX" << 2 << "The host can't write the codec \"DIVX\".";
+    QTest::newRow("a partition the document hasn't")
+        << "PNG"
+        << "" << 9 << "The document has no partition 9.";
 }
 
 void tst_SaveWriter::refused()
@@ -145,7 +153,8 @@ void tst_SaveWriter::savedCheckReadsTheInformationFiles()
     QTemporaryDir dir;
     QDir(dir.path()).mkpath(QStringLiteral("x/y"));
     QString error;
-    QVERIFY(HST_InfoFile::write(dir.filePath("x/y/a.inf"), { { "serialno", "1" }, { "datano", "2" } }, error));
+    QVERIFY(HST_InfoFile::write(
+        dir.filePath("x/y/a.inf"), { { "serialno", "1" }, { "datano", "2" } }, error));
     QVERIFY(HST_InfoFile::write(dir.filePath("b.inf"), { { "serialno", "1" } }, error));
     QFile garbage(dir.filePath("c.inf"));
     QVERIFY(garbage.open(QIODevice::WriteOnly));

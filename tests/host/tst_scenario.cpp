@@ -81,8 +81,7 @@ void tst_Scenario::read_data()
         << QString() << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "E"}]}}]})")
         << QStringList { "\"cameras[0].media.sd[0].drive\"", "not a drive letter" };
     QTest::newRow("one drive for two slots of two cameras")
-        << QString()
-        << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "E:"}]}},
+        << QString() << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "E:"}]}},
             {"media": {"cfast": [{"drive": "e:"}]}}]})")
         << QStringList { "\"cameras[1].media.cfast[0].drive\"", "drive E: is another slot's" };
     QTest::newRow("a password on an SD card")
@@ -90,7 +89,8 @@ void tst_Scenario::read_data()
         << QStringList { "\"cameras[0].media.sd[0].password\"", "unknown key" };
     QTest::newRow("more used than there is")
         << QString()
-        << QByteArray(R"({"cameras": [{"media": {"storageUnit": [{"capacity": 10, "used": 11}]}}]})")
+        << QByteArray(
+               R"({"cameras": [{"media": {"storageUnit": [{"capacity": 10, "used": 11}]}}]})")
         << QStringList { "\"cameras[0].media.storageUnit[0].used\"", "more than the capacity" };
     QTest::newRow("a recording's date that is none")
         << QString()
@@ -101,7 +101,8 @@ void tst_Scenario::read_data()
         << QString() << QByteArray(R"({"writer": {"formats": ["PNG", "MOV"]}})")
         << QStringList { "\"writer.formats\"", "can't write MOV files" };
     QTest::newRow("a partition's picture that isn't there")
-        << QString() << QByteArray(R"({"files": [{"partitions": [{"image": "/nonexistent.png"}]}]})")
+        << QString()
+        << QByteArray(R"({"files": [{"partitions": [{"image": "/nonexistent.png"}]}]})")
         << QStringList { "\"files[0].partitions[0].image\"", "no picture file" };
     QTest::newRow("loop save given as a flag")
         << QString() << QByteArray(R"({"loopSave": true})")

@@ -31,13 +31,15 @@ QStringList summary(const QString& json, const QStringList& fields)
     QStringList rows;
     for (const QJsonValue& value : QJsonDocument::fromJson(json.toUtf8()).array()) {
         const QJsonObject record = value.toObject();
-        QString row = QStringLiteral("r%1 k%2 p%3 s=%4")
-                          .arg(record.value("recid").toInt())
-                          .arg(record.value("dockey").toString(), record.value("partitionno").toString(),
-                              record.value("selected").toString());
+        QString row
+            = QStringLiteral("r%1 k%2 p%3 s=%4")
+                  .arg(record.value("recid").toInt())
+                  .arg(record.value("dockey").toString(), record.value("partitionno").toString(),
+                      record.value("selected").toString());
         for (const QString& field : fields) {
             if (record.contains(field))
-                row += QStringLiteral(" %1=%2").arg(field, record.value(field).toVariant().toString());
+                row += QStringLiteral(" %1=%2").arg(
+                    field, record.value(field).toVariant().toString());
         }
         rows << row;
     }
@@ -136,16 +138,18 @@ void tst_FileDialog::listRows_data()
 
     const QString save = QLatin1String(FileDialogKind::save);
     QTest::newRow("live: the current partition only, selected as its document")
-        << QByteArray(R"({"cameras": [{)") + twoPartitions + "}, {" + twoPartitions + "}]}"
-        << save << false << "" << QStringList()
-        << QStringList { "r1 k1 p1 s=true", "r2 k2 p1 s=false" };
+        << QByteArray(R"({"cameras": [{)") + twoPartitions + "}, {" + twoPartitions + "}]}" << save
+        << false << "" << QStringList() << QStringList { "r1 k1 p1 s=true", "r2 k2 p1 s=false" };
     QTest::newRow("live, loop recording: every partition with frames")
-        << QByteArray(R"({"prefs": {"recording/LoopRecord": true, "recording/AutoIncrementPartition":
-            true}, "cameras": [{)") + twoPartitions + "}]}"
+        << QByteArray(
+               R"({"prefs": {"recording/LoopRecord": true, "recording/AutoIncrementPartition":
+            true}, "cameras": [{)")
+            + twoPartitions + "}]}"
         << save << false << "" << QStringList()
         << QStringList { "r1 k1 p1 s=true", "r2 k1 p3 s=false" };
     QTest::newRow("live, stopping after the last: none before the current")
-        << QByteArray(R"({"prefs": {"recording/LoopRecord": true, "recording/AutoIncrementPartition":
+        << QByteArray(
+               R"({"prefs": {"recording/LoopRecord": true, "recording/AutoIncrementPartition":
             true, "recording/StopRecordingAfterLastPartition": true}, "cameras": [{)")
             + twoPartitions + "}]}"
         << save << false << "1:3" << QStringList() << QStringList { "r1 k1 p3 s=true" };
@@ -217,13 +221,13 @@ void tst_FileDialog::savedCheckMarksMediaRows_data()
     QTest::addColumn<bool>("done");
     QTest::addColumn<QStringList>("saved"); // serial:data
     QTest::addColumn<QStringList>("styles");
-    QTest::newRow("no style before the check") << false << QStringList { "100000:1" }
-                                               << QStringList { "", "" };
+    QTest::newRow("no style before the check")
+        << false << QStringList { "100000:1" } << QStringList { "", "" };
     QTest::newRow("after it, what wasn't found is red")
-        << true << QStringList { "100000:2" }
-        << QStringList { "background-color:red;", "" };
-    QTest::newRow("nothing found: all red") << true << QStringList()
-                                            << QStringList { "background-color:red;", "background-color:red;" };
+        << true << QStringList { "100000:2" } << QStringList { "background-color:red;", "" };
+    QTest::newRow("nothing found: all red")
+        << true << QStringList()
+        << QStringList { "background-color:red;", "background-color:red;" };
 }
 
 void tst_FileDialog::savedCheckMarksMediaRows()
@@ -340,13 +344,16 @@ void tst_FileDialog::sdDrives_data()
                                          << R"({"record":[],"select":-1})";
     QTest::newRow("drives by letter, none open: the first")
         << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "H:"}, {"drive": "E:"}]}}]})")
-        << "" << R"({"record":[{"drivename":"E:","recid":0},{"drivename":"H:","recid":1}],"select":0})";
+        << ""
+        << R"({"record":[{"drivename":"E:","recid":0},{"drivename":"H:","recid":1}],"select":0})";
     QTest::newRow("the open one chosen")
         << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "H:"}, {"drive": "E:"}]}}]})")
-        << "H:" << R"({"record":[{"drivename":"E:","recid":0},{"drivename":"H:","recid":1}],"select":1})";
+        << "H:"
+        << R"({"record":[{"drivename":"E:","recid":0},{"drivename":"H:","recid":1}],"select":1})";
     QTest::newRow("a card taken out is no drive")
         << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "E:", "present": false}]}}]})")
-        << "" << R"({"record":[],"select":-1})";
+        << ""
+        << R"({"record":[],"select":-1})";
 }
 
 void tst_FileDialog::sdDrives()
@@ -365,18 +372,32 @@ void tst_FileDialog::badInputFromThePage_data()
     QTest::addColumn<QString>("call");
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("reported"); // "" when nothing
-    QTest::newRow("preview of a document that has gone") << "select:9:1" << "" << "";
-    QTest::newRow("preview of a partition it hasn't") << "select:1:7" << "" << "";
-    QTest::newRow("preview of no size") << "select:1:1:0" << "" << "";
-    QTest::newRow("an SD row that isn't there") << "sd:5" << "" << "There is no SD drive 5.";
+    QTest::newRow("preview of a document that has gone") << "select:9:1"
+                                                         << ""
+                                                         << "";
+    QTest::newRow("preview of a partition it hasn't") << "select:1:7"
+                                                      << ""
+                                                      << "";
+    QTest::newRow("preview of no size") << "select:1:1:0"
+                                        << ""
+                                        << "";
+    QTest::newRow("an SD row that isn't there") << "sd:5"
+                                                << ""
+                                                << "There is no SD drive 5.";
     QTest::newRow("a storage unit drive that doesn't exist")
-        << "vpuse:3" << "" << "There is no storage unit drive 3 with slot 0.";
+        << "vpuse:3"
+        << ""
+        << "There is no storage unit drive 3 with slot 0.";
     QTest::newRow("a locked storage unit waits for the password dialog")
-        << "vpopen:5" << "" << "The dialog is not available.";
-    QTest::newRow("the head of a document that has gone")
-        << "rename:9" << "" << "The document 9 is no longer open.";
-    QTest::newRow("sizes that are no numbers count nothing")
-        << "capacity" << "1.00KB" << "";
+        << "vpopen:5"
+        << ""
+        << "The dialog is not available.";
+    QTest::newRow("the head of a document that has gone") << "rename:9"
+                                                          << ""
+                                                          << "The document 9 is no longer open.";
+    QTest::newRow("sizes that are no numbers count nothing") << "capacity"
+                                                             << "1.00KB"
+                                                             << "";
 }
 
 void tst_FileDialog::badInputFromThePage()

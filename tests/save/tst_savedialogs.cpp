@@ -50,7 +50,7 @@ QByteArray scenario(const QString& dir, const QString& prefs)
         "export/filenameaddnumberheadnodigits": 1, "export/filenameaddnumbersessionnodigits": 3,
         "export/filenameaddtime": true, "export/filenameaddtimeformat": "HHmmss",
         "snap/fileformat": "JPEG", "snap/filename": "shot"}})")
-                            .object();
+                           .object();
     QJsonObject values = root.value(QStringLiteral("prefs")).toObject();
     values.insert(QStringLiteral("export/dir"), dir);
     values.insert(QStringLiteral("snap/dir"), dir);
@@ -177,7 +177,8 @@ void tst_SaveDialogs::save_data()
     QTest::addColumn<QStringList>("reported");
 
     QTest::newRow("two cameras into one group, a sub directory each, numbers and time")
-        << "" << "filesavedialog" << chooseAndPress("save")
+        << ""
+        << "filesavedialog" << chooseAndPress("save")
         << QStringList { "trial_S001/Run A/Run A_C01H1S001_<t>.png",
                "trial_S001/Run A/Run A_C02H1S001_<t>.png",
                "trial_S001/Run B/Run B_C01H1S001_<t>.png" }
@@ -186,7 +187,8 @@ void tst_SaveDialogs::save_data()
     twice.append(step(QStringLiteral("menu"), QStringLiteral("File/Save...")));
     twice.append(js("$('#save').click(); 1"));
     QTest::newRow("a second save: the next session")
-        << "" << "filesavedialog" << twice
+        << ""
+        << "filesavedialog" << twice
         << QStringList { "trial_S001/Run A/Run A_C01H1S001_<t>.png",
                "trial_S001/Run A/Run A_C02H1S001_<t>.png",
                "trial_S001/Run B/Run B_C01H1S001_<t>.png",
@@ -204,7 +206,8 @@ void tst_SaveDialogs::save_data()
         << "filesavedialog" << refused << QStringList()
         << QStringList { "The path of the target is too long." };
     QTest::newRow("Cancel writes nothing")
-        << "" << "filesavedialog"
+        << ""
+        << "filesavedialog"
         << QJsonArray { js("filedialogPage.check(1, 2, true); 1"), js("$('#cancel').click(); 1") }
         << QStringList() << QStringList();
     QTest::newRow("apply writes and stays; a movie with a thumbnail and its information")
@@ -218,11 +221,12 @@ void tst_SaveDialogs::save_data()
         << QStringList();
     QTest::newRow("a format the host can't write: told, nothing written")
         << R"("export/fileformat": "MOV", "export/groupdir": false, "export/subdir": false)"
-        << "filesavedialog" << QJsonArray { js("$('#save').click(); 1"), click("OK"),
-               js("$('#cancel').click(); 1") }
+        << "filesavedialog"
+        << QJsonArray { js("$('#save').click(); 1"), click("OK"), js("$('#cancel').click(); 1") }
         << QStringList() << QStringList { "The host can't write MOV files." };
     QTest::newRow("the snapshot dialog names by its own family")
-        << "" << "snapshotdialog" << QJsonArray { js("$('#save').click(); 1") }
+        << ""
+        << "snapshotdialog" << QJsonArray { js("$('#save').click(); 1") }
         << QStringList { "shot.jpg" } << QStringList();
 }
 
@@ -247,10 +251,8 @@ void tst_SaveDialogs::save()
     QCOMPARE(recorded.size(), written().size());
     // The batch's plan is gone once it is on disk.
     QVERIFY(!result.of(QStringLiteral("saveRegistry")).isEmpty());
-    QCOMPARE(result.of(QStringLiteral("saveRegistry"))
-                 .last()
-                 .value(QStringLiteral("op"))
-                 .toString(),
+    QCOMPARE(
+        result.of(QStringLiteral("saveRegistry")).last().value(QStringLiteral("op")).toString(),
         QStringLiteral("commitPendingNames"));
 }
 
@@ -326,8 +328,8 @@ void tst_SaveDialogs::conversionSettings()
                                .toUtf8(),
         steps, QStringLiteral("convertparametereditdialog"));
     QCOMPARE(result.code, 0);
-    QTEST(result.of(QStringLiteral("open")).last().value(QStringLiteral("result")).toInt(),
-        "result");
+    QTEST(
+        result.of(QStringLiteral("open")).last().value(QStringLiteral("result")).toInt(), "result");
     QTEST(result.texts(QStringLiteral("message"), QStringLiteral("text")), "messages");
     QFETCH(QVariant, groupdir);
     QCOMPARE(pref(QStringLiteral("convert/groupdir")).toString(), groupdir.toString());
@@ -374,7 +376,8 @@ void tst_SaveDialogs::openDialog()
         if (call == QLatin1String("setMediaKind"))
             calls << call + QLatin1Char(' ') + QString::number(event.value("kind").toInt());
         else if (call == QLatin1String("openMedia"))
-            calls << QStringLiteral("%1 %2 %3").arg(call, event.value("drive").toString(), keys.join(','));
+            calls << QStringLiteral("%1 %2 %3")
+                         .arg(call, event.value("drive").toString(), keys.join(','));
         else if (call == QLatin1String("formatMedia"))
             calls << call + QLatin1Char(' ') + event.value("drive").toString();
         else if (call == QLatin1String("importDocuments"))
