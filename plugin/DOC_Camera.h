@@ -89,4 +89,8 @@ public:
     virtual int dualSlopeShutter() = 0;
     virtual int automaticExposureControl() = 0;
     virtual int lowLightMode() = 0;
+    // Names the data set the document stands for.
+    virtual void setDataName(const QString& name) = 0;
+    // The camera can tell which of its data were saved already.
+    virtual bool canCheckSaved() = 0;
 };
