@@ -2,10 +2,12 @@
 
 #include "host/HST_CameraState.h"
 #include "host/HST_Faults.h"
+#include "host/HST_InfoHost.h"
 #include "host/HST_NumberOption.h"
 #include "host/HST_Recorder.h"
 
 #include <QDate>
+#include <QPixmap>
 #include <QVariantMap>
 
 HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
@@ -394,4 +396,23 @@ QString& HST_Document::numberOptionText(
     out = HST_NumberOption::text(
         m_context ? m_context->prefs : nullptr, mode, partition, session, document, usesSession);
     return out;
+}
+
+QPixmap HST_Document::previewPixmap(
+    int, int width, int height, int partition, int set, const QDateTime&)
+{
+    hostCall("document.previewPixmap");
+    // Sizes a page can't show are held to what it can.
+    const QSize size = QSize(width, height).expandedTo(QSize(1, 1)).boundedTo(QSize(8192, 8192));
+    if (!m_context || !m_context->info)
+        return QPixmap(size);
+    return m_context->info->informationPreview(*this, size, partition, set);
+}
+
+void HST_Document::reloadLogo()
+{
+    hostCall("document.reloadLogo");
+    record(QStringLiteral("reloadLogo"), {});
+    if (m_context && m_context->info)
+        m_context->info->reloadLogos();
 }

@@ -10,6 +10,7 @@
 
 struct HST_CameraState;
 class HST_Faults;
+class HST_InfoHost;
 class HST_Preferences;
 class HST_Recorder;
 
@@ -24,6 +25,8 @@ struct HST_DocumentContext
     HST_Preferences* prefs = nullptr;
     // The devices the host has: deviceCount of every document.
     int deviceCount = 1;
+    // Draws previews with the information block and reloads logos.
+    HST_InfoHost* info = nullptr;
 };
 
 // A document of the reference host: one document of a simulated camera, or a file without one.
@@ -43,6 +46,8 @@ public:
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
+    const HST_DocumentSpec& spec() const { return m_spec; }
+    QSize resolution() const { return imageSizeValue(); }
     // What the host's window shows for it: the camera's name, or the file's.
     QString title() const;
     // The host's selection; not operations of the plug-in's, so neither recorded nor faulted.
@@ -108,6 +113,8 @@ public:
     }
     void setComment(const QString& text) override;
     bool imageFormat(int& depth, int& realDepth) override;
+    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int set,
+        const QDateTime& dateTime) override;
 
     // DOC_Camera
     QString ipAddress(bool current = true) override;
@@ -374,6 +381,7 @@ public:
         hostCall("document.binningExponent");
         return 0;
     }
+    void reloadLogo() override;
 
     // DOC_HeadGroup
     bool isHeadGroupOwner() override

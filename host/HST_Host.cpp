@@ -75,7 +75,7 @@ static void initResources()
 HST_Host::HST_Host(
     const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
     : QObject(parent)
-    , HST_DocumentHost(recorder)
+    , HST_InfoHost(recorder, scenario.timeCode)
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
@@ -113,7 +113,7 @@ void HST_Host::setTypeRecords(const QList<int>& types)
 bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
 {
     for (const char* fixed : { "visa", "generator", "faults", "exportSupportFile", "versionText",
-             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry" }) {
+             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry", "timeCode" }) {
         if (world.contains(QLatin1String(fixed))) {
             error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
             return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HST_Fault.h"
+#include "plugin/APP_TimeCodeRecord.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -130,6 +131,8 @@ public:
     // The save registry's fixed group and target directories; empty: none fixed.
     QString saveGroupDirectory;
     QString saveDirectory;
+    // The time code record the host starts with (HST_TimeCodeScenario).
+    APP_TimeCodeRecord timeCode;
     // Where the scenario came from, for messages.
     QString source;
 
