@@ -87,11 +87,11 @@ QPixmap HST_InfoHost::informationPreview(
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::black);
     QPainter painter(&image);
-    const QRect frameArea(0, 0, size.width(), size.height() - below);
-    painter.drawImage(
-        frameArea.topLeft(), HST_Preview::frame(document, frameArea.size(), partition));
-    const QRect textArea
-        = style.withinImage ? frameArea : QRect(0, frameArea.bottom() + 1, size.width(), below);
+    const QSize frameSize(size.width(), size.height() - below);
+    painter.drawImage(0, 0, HST_Preview::frame(document, frameSize, partition));
+    // Within the image: over the frame itself; else in the strip below it.
+    const QRect textArea = style.withinImage ? HST_Preview::frameRect(frameSize)
+                                             : QRect(0, frameSize.height(), size.width(), below);
     HST_InfoOverlay::paint(painter, textArea, style, lines, logo(style.logoPath), scale);
     painter.end();
     return QPixmap::fromImage(image);

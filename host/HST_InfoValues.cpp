@@ -202,7 +202,8 @@ QStringList HST_InfoValues::itemTexts(const Source& source, const QString& key)
         const QString comment = document.commentText();
         if (comment.isEmpty())
             return {};
-        value = comment;
+        // The mark some hosts store for a line break.
+        value = QString(comment).replace(COMMENT_SEPARATOR, QStringLiteral("\n"));
     } else if (key == INFO_KEY_SYNC_SIGNAL_STATE) {
         value = camera && camera->syncRequired.load() ? QStringLiteral("Not synchronized")
                                                       : QStringLiteral("Synchronized");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QRect>
 #include <QSize>
 
 class HST_Document;
@@ -13,4 +14,6 @@ public:
     HST_Preview() = delete;
 
     static QImage frame(const HST_Document& document, const QSize& size, int partition);
+    // Where the frame lies within a preview of that size.
+    static QRect frameRect(const QSize& size);
 };
