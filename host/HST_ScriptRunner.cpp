@@ -482,6 +482,13 @@ HST_ScriptRunner::Result HST_ScriptRunner::runScript(const QString& code, QWidge
     }
     if (!view)
         return Result::Waiting;
+    // A page still loading has not bound its controls yet: a user would wait for it too.
+    if (view->page()
+            ->mainFrame()
+            ->evaluateJavaScript(QStringLiteral("document.readyState"))
+            .toString()
+        != QLatin1String("complete"))
+        return Result::Waiting;
     QPointer<QWebView> guarded(view);
     HST_Recorder* recorder = m_recorder;
     postAction([guarded, code, recorder] {

@@ -177,12 +177,12 @@ var editinfoPage = (function () {
         // The order as the user left it after a drag: the item of key moved to position.
         move: function (key, position) {
             var item = $(document.getElementById(key)).closest('li');
-            var rows = $('#infoList').children();
             item.detach();
-            if (position >= rows.length - 1)
+            var rows = $('#infoList').children();
+            if (position >= rows.length)
                 $('#infoList').append(item);
             else
-                $('#infoList').children().eq(position).before(item);
+                rows.eq(position).before(item);
             reportOrder();
             return $('#infoList').children().length;
         },
@@ -190,7 +190,11 @@ var editinfoPage = (function () {
         moveSeparator: function (index, position) {
             var separator = $('#infoList').children('hr').eq(index);
             separator.detach();
-            $('#infoList').children().eq(position).before(separator);
+            var rows = $('#infoList').children();
+            if (position >= rows.length)
+                $('#infoList').append(separator);
+            else
+                rows.eq(position).before(separator);
             reportOrder();
         },
         check: function (key, on) {
