@@ -10,7 +10,7 @@
 namespace {
 
 // How a page names a separator in an order it reports.
-constexpr QLatin1String pageSeparator("HR");
+constexpr QLatin1String pageSeparator("HR", 2);
 
 } // namespace
 

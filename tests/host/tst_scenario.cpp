@@ -75,6 +75,12 @@ void tst_Scenario::read_data()
     QTest::newRow("fault in steps without a text")
         << QString() << QByteArray("{\"faults\": {\"translate\": {\"steps\": [1]}}}")
         << QStringList { "\"faults.translate\"", "no text" };
+    QTest::newRow("time code value beyond a time code")
+        << QString() << QByteArray("{\"timeCode\": {\"oneFrame\": 1e9}}")
+        << QStringList { "\"timeCode.oneFrame\"", "beyond 9.999e8" };
+    QTest::newRow("time code key the record doesn't have")
+        << QString() << QByteArray("{\"timeCode\": {\"step\": 1}}")
+        << QStringList { "\"timeCode.step\"", "unknown key" };
 }
 
 void tst_Scenario::read()
