@@ -269,6 +269,15 @@ void tst_InfoLogic::displayList_data()
     QTest::newRow("unknown and repeated keys in an order are dropped") << "A:true,B:false"
                                                                        << "B,X,B,A"
                                                                        << "B:false,A:true";
+    QStringList many;
+    for (int i = 0; i < 10000; ++i)
+        many << QStringLiteral("k%1:%2").arg(i).arg(i % 2 ? "true" : "false");
+    QStringList reversed = many;
+    std::reverse(reversed.begin(), reversed.end());
+    QString order = reversed.join(QLatin1Char(','));
+    order.replace(QStringLiteral(":true"), QString()).replace(QStringLiteral(":false"), QString());
+    QTest::newRow("10,000 entries, turned round")
+        << many.join(QLatin1Char(',')) << order << reversed.join(QLatin1Char(','));
 }
 
 void tst_InfoLogic::displayList()

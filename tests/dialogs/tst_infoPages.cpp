@@ -2,6 +2,7 @@
 // by name, the steps drive their pages as a user would, and the record, the preferences, the
 // documents and the overlay on a document's image are checked afterwards.
 #include "host/HST_Application.h"
+#include "host/HST_InfoDefaults.h"
 #include "host/HST_MainWindow.h"
 #include "host/HST_Recorder.h"
 
@@ -70,6 +71,8 @@ private slots:
     void overlayFollowsTheList();
     void collectiveSetting_data();
     void collectiveSetting();
+    void logo_data();
+    void logo();
     void displayFormats_data();
     void displayFormats();
     void comments_data();
@@ -176,6 +179,9 @@ void tst_InfoPages::screenForm_data()
     QTest::newRow("closing the window is Cancel")
         << QJsonArray { js("editinfoPage.check('Comment', false)"), js("editInfo.close(); 0") }
         << start << writeBack << 0;
+    QTest::newRow("Reset: the host's default list")
+        << QJsonArray { js("$('#reset').click(); 0"), js("$('#ok').click(); 0") }
+        << HST_InfoDefaults::displayText() << QStringList() << 0;
     QTest::newRow("a font size out of range is refused")
         << QJsonArray { js("editinfoPage.set('fontSize', '999')"),
                step(QStringLiteral("click"), QStringLiteral("OK")), js("$('#ok').click(); 0") }
@@ -261,6 +267,56 @@ void tst_InfoPages::collectiveSetting()
         QCOMPARE(
             pref(QStringLiteral("saveinfo/FontName1")).toString(), QStringLiteral("Sans Serif"));
     }
+}
+
+void tst_InfoPages::logo_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("stored");
+
+    QTest::newRow("an image is stored, the documents read it") << "logo.png" << true;
+    QTest::newRow("a file that is no image is refused") << "logo.txt" << false;
+}
+
+void tst_InfoPages::logo()
+{
+    QFETCH(QString, file);
+    QFETCH(bool, stored);
+
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(m_dir.filePath(QStringLiteral("logo.png"))));
+    QFile text(m_dir.filePath(QStringLiteral("logo.txt")));
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("not an image") > 0);
+    text.close();
+
+    QJsonArray steps { js("editinfoPage.check('Logo', true)"),
+        js("editinfoPage.edit('select_logo'); 0"),
+        step(QStringLiteral("file"), m_dir.filePath(file)) };
+    if (!stored)
+        steps.append(step(QStringLiteral("click"), QStringLiteral("OK")));
+    steps.append(js("$('#ok').click(); 0"));
+    const QByteArray scenario = R"({"cameras": [{}, {}], "prefs": {"info/display": "Logo:false"}})";
+    const Run result = run(scenario, steps, QStringLiteral("editinfo"));
+    QVERIFY2(result.code == 0, qPrintable(result.error));
+    QCOMPARE(pref(QStringLiteral("info/LogoPath")).toString(),
+        stored ? m_dir.filePath(file) : QString());
+    QCOMPARE(result.of(QStringLiteral("message")).size(), stored ? 0 : 1);
+    // The current document, which is also the one selected.
+    QCOMPARE(result.of(QStringLiteral("reloadLogo")).size(), stored ? 1 : 0);
+    if (!stored)
+        return;
+
+    // A logo that has gone draws nothing, and the log says why.
+    QFile::remove(m_dir.filePath(file));
+    const Run again = run(scenario,
+        { step(QStringLiteral("screenshot"), m_dir.filePath(QStringLiteral("gone.png")),
+            QStringLiteral("documentView_1")) });
+    QCOMPARE(again.code, 0);
+    bool told = false;
+    for (const QJsonObject& line : again.of(QStringLiteral("log")))
+        told = told || line.value("text").toString().contains(QLatin1String("can't be read"));
+    QVERIFY(told);
 }
 
 void tst_InfoPages::displayFormats_data()
