@@ -1,6 +1,5 @@
 #include "dialogs/GUI_EditInfoDialog.h"
 
-#include "dialogs/InfoActions.h"
 #include "dialogs/InfoDisplayList.h"
 #include "dialogs/InfoSettingsHtml.h"
 #include "plugin/APP_Host.h"
@@ -525,60 +524,15 @@ void GUI_EditInfoDialog::runSubDialog(const char* name, const std::function<void
     });
 }
 
-void GUI_EditInfoDialog::editComment()
+void GUI_EditInfoDialog::openSubDialog(const char* name, InfoActions::SubDialog which)
 {
-    runSubDialog("editComment", [this] {
-        InfoActions::runSubDialog(m_host, this, InfoActions::SubDialog::Comment, m_document);
-    });
+    runSubDialog(name, [&] { InfoActions::runSubDialog(m_host, this, which, m_document); });
 }
 
 void GUI_EditInfoDialog::setLogoPath()
 {
     runSubDialog("setLogoPath",
         [this] { InfoActions::chooseLogo(m_host, this, m_isSaveView, m_documentKeys); });
-}
-
-void GUI_EditInfoDialog::execTimeCodeSettingDialog()
-{
-    runSubDialog("execTimeCodeSettingDialog", [this] {
-        InfoActions::runSubDialog(m_host, this, InfoActions::SubDialog::TimeCode, m_document);
-    });
-}
-
-void GUI_EditInfoDialog::editCustom()
-{
-    runSubDialog("editCustom", [this] {
-        InfoActions::runSubDialog(m_host, this, InfoActions::SubDialog::Custom, m_document);
-    });
-}
-
-void GUI_EditInfoDialog::editShutterDispFormat()
-{
-    runSubDialog("editShutterDispFormat", [this] {
-        InfoActions::runSubDialog(m_host, this, InfoActions::SubDialog::ShutterFormat, m_document);
-    });
-}
-
-void GUI_EditInfoDialog::editRectimeDispFormat()
-{
-    runSubDialog("editRectimeDispFormat", [this] {
-        InfoActions::runSubDialog(m_host, this, InfoActions::SubDialog::RectimeFormat, m_document);
-    });
-}
-
-void GUI_EditInfoDialog::editRecordRateDispFormat()
-{
-    runSubDialog("editRecordRateDispFormat", [this] {
-        InfoActions::runSubDialog(
-            m_host, this, InfoActions::SubDialog::RecordRateFormat, m_document);
-    });
-}
-
-void GUI_EditInfoDialog::editFrameDispFormat()
-{
-    runSubDialog("editFrameDispFormat", [this] {
-        InfoActions::runSubDialog(m_host, this, InfoActions::SubDialog::FrameFormat, m_document);
-    });
 }
 
 QString GUI_EditInfoDialog::getThumbnail(int width, int height)

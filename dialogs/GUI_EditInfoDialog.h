@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/InfoActions.h"
 #include "dialogs/InfoSetStore.h"
 #include "web/GUI_Dialog.h"
 
@@ -176,14 +177,29 @@ public slots:
     void setWithinImage(bool value, bool update);
     void setWithinImage(bool value) { setWithinImage(value, true); }
 
-    void editComment();
+    void editComment() { openSubDialog("editComment", InfoActions::SubDialog::Comment); }
     void setLogoPath();
-    void execTimeCodeSettingDialog();
-    void editCustom();
-    void editShutterDispFormat();
-    void editRectimeDispFormat();
-    void editRecordRateDispFormat();
-    void editFrameDispFormat();
+    void execTimeCodeSettingDialog()
+    {
+        openSubDialog("execTimeCodeSettingDialog", InfoActions::SubDialog::TimeCode);
+    }
+    void editCustom() { openSubDialog("editCustom", InfoActions::SubDialog::Custom); }
+    void editShutterDispFormat()
+    {
+        openSubDialog("editShutterDispFormat", InfoActions::SubDialog::ShutterFormat);
+    }
+    void editRectimeDispFormat()
+    {
+        openSubDialog("editRectimeDispFormat", InfoActions::SubDialog::RectimeFormat);
+    }
+    void editRecordRateDispFormat()
+    {
+        openSubDialog("editRecordRateDispFormat", InfoActions::SubDialog::RecordRateFormat);
+    }
+    void editFrameDispFormat()
+    {
+        openSubDialog("editFrameDispFormat", InfoActions::SubDialog::FrameFormat);
+    }
 
     // PNG, base64. Without a height it follows the document's aspect; without a width 400.
     QString getThumbnail(int width, int height);
@@ -229,7 +245,9 @@ private:
     void refreshAfter(bool update);
     // Puts back what Cancel puts back, once.
     void writeBack();
+    // Runs what opens a dialog over this one, the views refreshed afterwards on the screen.
     void runSubDialog(const char* name, const std::function<void()>& body);
+    void openSubDialog(const char* name, InfoActions::SubDialog which);
     void warn(const QString& sourceText);
     QSize documentResolution();
 
