@@ -169,7 +169,7 @@ QString GUI_EditInfoDialog::getInfoSettingsHtml(int offset)
                 m_itemEnabled.insert(item->key, flag != 0);
             }
         }
-        const QString html = InfoSettingsHtml::build(
+        QString html = InfoSettingsHtml::build(
             list, m_itemEnabled, m_isSaveView,
             [this](const QString& key) {
                 QString label;

@@ -35,7 +35,7 @@ QImage HST_InfoHost::logo(const QString& path)
     if (found != m_logos.constEnd())
         return found.value();
     QImageReader reader(path);
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.isNull())
         qWarning("information block: the logo %s can't be read: %s", qPrintable(path),
             qPrintable(reader.errorString()));

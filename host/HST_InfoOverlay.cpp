@@ -91,9 +91,10 @@ void HST_InfoOverlay::paint(QPainter& painter, const QRect& area, const HST_Info
         left = area.left() + (area.width() - blockWidth) / 2;
     else if (style.alignment == 2)
         left = area.right() - margin - blockWidth;
-    const Qt::Alignment textAlignment = style.alignment == 1 ? Qt::AlignHCenter
-        : style.alignment == 2                               ? Qt::AlignRight
-                                                             : Qt::AlignLeft;
+    const int textAlignment = int(style.alignment == 1       ? Qt::AlignHCenter
+                                      : style.alignment == 2 ? Qt::AlignRight
+                                                             : Qt::AlignLeft)
+        | int(Qt::AlignVCenter);
 
     painter.save();
     painter.setClipRect(area);
@@ -120,9 +121,9 @@ void HST_InfoOverlay::paint(QPainter& painter, const QRect& area, const HST_Info
                     = metrics.elidedText(line.text, Qt::ElideRight, layout.columnWidth);
                 // A dark shadow keeps light text readable on a light picture.
                 painter.setPen(QColor(0, 0, 0, 160));
-                painter.drawText(box.translated(1, 1), textAlignment | Qt::AlignVCenter, text);
+                painter.drawText(box.translated(1, 1), textAlignment, text);
                 painter.setPen(style.foreground);
-                painter.drawText(box, textAlignment | Qt::AlignVCenter, text);
+                painter.drawText(box, textAlignment, text);
             } else if (line.kind == HST_InfoLine::Logo && !logo.isNull()) {
                 const QImage scaled = logo.scaledToHeight(height, Qt::SmoothTransformation);
                 int logoX = x;

@@ -120,7 +120,7 @@ QString HST_InfoValues::recordingTime(qint64 frames, int unit)
             .arg(twoDigits(milliseconds / 3600000), twoDigits(milliseconds / 60000 % 60),
                 twoDigits(milliseconds / 1000 % 60), threeDigits(milliseconds % 1000));
     default:
-        return QStringLiteral("%1 sec").arg(milliseconds / 1000.0, 0, 'f', 3);
+        return QStringLiteral("%1 sec").arg(double(milliseconds) / 1000.0, 0, 'f', 3);
     }
 }
 
