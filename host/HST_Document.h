@@ -13,6 +13,7 @@
 struct HST_CameraState;
 class HST_Faults;
 class HST_Media;
+class HST_InfoHost;
 class HST_Preferences;
 class HST_Recorder;
 
@@ -31,6 +32,8 @@ struct HST_DocumentContext
     HST_Media* media = nullptr;
     // Closes a document whose file was deleted.
     std::function<void(int key)> closeDocument;
+    // Draws previews with the information block and reloads logos.
+    HST_InfoHost* info = nullptr;
 };
 
 // A document of the reference host: one document of a simulated camera, or a file without one.
@@ -55,6 +58,7 @@ public:
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
+    QSize resolution() const { return imageSizeValue(); }
     // What the host's window shows for it: the camera's name, or the file's.
     QString title() const;
     // The host's selection; not operations of the plug-in's, so neither recorded nor faulted.
@@ -120,6 +124,8 @@ public:
     }
     void setComment(const QString& text) override;
     bool imageFormat(int& depth, int& realDepth) override;
+    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int set,
+        const QDateTime& dateTime) override;
 
     // DOC_Camera
     QString ipAddress(bool current = true) override;
@@ -387,6 +393,7 @@ public:
         hostCall("document.binningExponent");
         return 0;
     }
+    void reloadLogo() override;
 
     // DOC_HeadGroup
     bool isHeadGroupOwner() override
@@ -406,8 +413,8 @@ public:
 
     // What a save takes of it (HST_DocumentDescription, HST_Preview, HST_SaveWriter).
     QVariantMap documentDescription(bool convert) override;
-    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int reserved,
-        const QDateTime& dateTime) override;
+    // The scenario's partition, or null for a number out of range.
+    const HST_PartitionSpec* partitionSpec(int partition) const;
     bool isMultiSkipA() override;
     bool isMultiSkipB() override;
     bool isOnSd() override;
@@ -432,7 +439,6 @@ private:
     void hostCall(const char* operation) const;
     void record(const QString& call, QJsonObject fields) const;
     QSize imageSizeValue() const;
-    const HST_PartitionSpec* partitionSpec(int partition) const;
     QString firmwarePart(int index) const;
     void setSaveOption(const char* operation, const char* name, bool& option, bool on);
 
