@@ -12,6 +12,13 @@ HST_DocumentArea::HST_DocumentArea(HST_Host* host, QWidget* parent)
     , m_host(host)
 {
     setObjectName(QStringLiteral("host_documentArea"));
+    // A repaint is scheduled, never done on the spot: many updates in one pass paint once.
+    connect(host, &HST_Host::uiUpdateRequested, this, [this] {
+        for (const QPointer<QMdiSubWindow>& window : qAsConst(m_windows)) {
+            if (window && window->widget())
+                window->widget()->update();
+        }
+    });
 }
 
 void HST_DocumentArea::sync()
@@ -31,7 +38,7 @@ void HST_DocumentArea::sync()
     for (auto it = open.begin(); it != open.end(); ++it) {
         if (m_windows.contains(it.key()))
             continue;
-        auto* view = new HST_DocumentView(it.key(), it.value()->title());
+        auto* view = new HST_DocumentView(m_host, it.value());
         QMdiSubWindow* window = addSubWindow(view);
         window->setObjectName(QStringLiteral("document_%1").arg(it.key()));
         window->setWindowTitle(it.value()->title());

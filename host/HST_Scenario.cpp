@@ -216,7 +216,18 @@ QList<HST_PartitionSpec> readPartitions(const QJsonObject& parent, const QString
 // The keys a camera's documents and a file share.
 QStringList documentKeys()
 {
-    return { "customData", "comment", "partitions", "temporary" };
+    return { "customData", "comment", "partitions", "temporary", "view" };
+}
+
+void readView(const QJsonObject& object, const QString& path, HST_ViewState& view)
+{
+    if (!object.contains(QLatin1String("view")))
+        return;
+    QString key;
+    QString problem;
+    if (!HST_ViewState::read(readObject(object, path, QStringLiteral("view")),
+            join(path, QStringLiteral("view")), view, key, problem))
+        refuse(key, problem);
 }
 
 // Keys left out keep what document holds.
@@ -228,15 +239,18 @@ void readDocument(const QJsonObject& object, const QString& path, HST_DocumentSp
     if (object.contains(QLatin1String("partitions")))
         document.partitions = readPartitions(object, path);
     document.temporary = readBool(object, path, QStringLiteral("temporary"), document.temporary);
+    readView(object, path, document.view);
 }
 
-HST_DocumentSpec readFile(const QJsonValue& value, const QString& name, int index)
+HST_DocumentSpec readFile(
+    const QJsonValue& value, const QString& name, int index, const HST_ViewState& view)
 {
     if (!value.isObject())
         wrongType(name, "an object", value);
     const QJsonObject object = value.toObject();
     checkKeys(object, name, documentKeys() + QStringList { "name", "path" });
     HST_DocumentSpec document = HST_Scenario::fileDocument(index);
+    document.view = view;
     readDocument(object, name, document);
     document.baseName = readString(object, name, QStringLiteral("name"), document.baseName);
     document.filePath = readString(object, name, QStringLiteral("path"), document.filePath);
@@ -275,7 +289,8 @@ HST_Outcome readOutcome(const QJsonObject& parent, const QString& path, const QS
     return outcome;
 }
 
-HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int index)
+HST_CameraSpec readCamera(
+    const QJsonValue& value, const QString& name, int index, const HST_ViewState& view)
 {
     if (!value.isObject())
         wrongType(name, "an object", value);
@@ -289,6 +304,7 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
                 "firmware", "functions", "filePath", "connected", "mobile", "deviceName",
                 "wifiConnected", "linkSpeed", "bitDepth", "realBitDepth", "rostraLocked" });
     HST_CameraSpec camera;
+    camera.document.view = view;
     camera.name = readString(
         object, name, QStringLiteral("name"), QStringLiteral("Camera %1").arg(index + 1));
     camera.ip = readString(
@@ -459,8 +475,14 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     checkKeys(root, QString(),
         { "mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync", "visa",
             "generator", "faults", "versionText", "defaultCameraName", "cameraNameList",
-            "deviceCount", "saveRegistry", "status", "recordingStatus", "exportSupportFile" });
+            "deviceCount", "saveRegistry", "status", "recordingStatus", "exportSupportFile", "view",
+            "multiLock", "crossCursor" });
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
+    // Every document's view, unless its camera or file says otherwise.
+    HST_ViewState view;
+    readView(root, QString(), view);
+    out.multiLock = readBool(root, QString(), QStringLiteral("multiLock"), false);
+    out.crossCursor = readBool(root, QString(), QStringLiteral("crossCursor"), false);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
     if (root.contains(QLatin1String("cameras"))) {
@@ -468,7 +490,7 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
         QSet<QString> seen;
         for (int i = 0; i < cameras.size(); ++i) {
             const QString name = QStringLiteral("cameras[%1]").arg(i);
-            const HST_CameraSpec camera = readCamera(cameras.at(i), name, i);
+            const HST_CameraSpec camera = readCamera(cameras.at(i), name, i, view);
             if (seen.contains(camera.ip))
                 refuse(name + QStringLiteral(".ip"),
                     QStringLiteral("duplicate camera address %1").arg(camera.ip));
@@ -481,12 +503,13 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
         if (files.size() > 64)
             refuse(QStringLiteral("files"), QStringLiteral("more than 64 files"));
         for (int i = 0; i < files.size(); ++i)
-            out.fileDocuments.append(readFile(files.at(i), QStringLiteral("files[%1]").arg(i), i));
+            out.fileDocuments.append(
+                readFile(files.at(i), QStringLiteral("files[%1]").arg(i), i, view));
         out.files = files.size();
     } else {
         out.files = readInt(root, QString(), QStringLiteral("files"), 0, 0, 64);
         for (int i = 0; i < out.files; ++i)
-            out.fileDocuments.append(readFile(QJsonObject(), QString(), i));
+            out.fileDocuments.append(readFile(QJsonObject(), QString(), i, view));
     }
     if (root.contains(QLatin1String("hubs"))) {
         const QJsonArray hubs = readArray(root, QString(), QStringLiteral("hubs"));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HST_Fault.h"
+#include "host/HST_ViewState.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -38,6 +39,8 @@ struct HST_DocumentSpec
     // A file's name; a camera's documents are named after the camera.
     QString baseName;
     bool temporary = false;
+    // How its window shows it, and its image's sizes.
+    HST_ViewState view;
 };
 
 struct HST_CameraSpec
@@ -130,6 +133,9 @@ public:
     // The save registry's fixed group and target directories; empty: none fixed.
     QString saveGroupDirectory;
     QString saveDirectory;
+    // The host's multi-lock and its cross cursor tool, as the View menu toggles them.
+    bool multiLock = false;
+    bool crossCursor = false;
     // Where the scenario came from, for messages.
     QString source;
 
