@@ -45,8 +45,10 @@ void HST_DocumentArea::sync()
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->installEventFilter(this);
         window->resize(320, 260);
-        const int slot = m_windows.size() % 6;
-        window->move(slot * 28, slot * 28);
+        // Side by side, two to a row and two rows; further windows cascade over those.
+        const int slot = m_windows.size();
+        const int layer = slot / 4;
+        window->move((slot % 2) * 324 + layer * 28, (slot / 2 % 2) * 264 + layer * 28);
         window->show();
         m_windows.insert(it.key(), window);
     }

@@ -443,7 +443,7 @@ QString derivedStatus(const QString& name)
         { &STATUS_IS_OTHER_PLUGIN_OPEN, "true while a plug-in's window is open" },
         { &STATUS_IS_LIVE_NO_AUTO_DOWNLOAD_SETTING,
             "follows the preference \"recording/AutoDownload\" and \"mode\"" },
-        { &STATUS_IS_MOUSE_DRAGGING, "the host has no plug-in page a mouse could drag on" },
+        { &STATUS_IS_MOUSE_DRAGGING, "follows a drag on a document while a plug-in's page shows" },
         { &STATUS_IS_ROSTRA_LOCK_DEVICE,
             "follows \"IsRostra\" and the current document's camera key \"rostraLocked\"" },
     };
