@@ -10,7 +10,9 @@
 #include <QMouseEvent>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -33,7 +35,7 @@ QPoint point(const QJsonValue& value)
 // A key with its modifiers, or nothing when the text names no single key.
 bool parseKey(const QString& text, int& key, Qt::KeyboardModifiers& modifiers)
 {
-    const QKeySequence sequence(text);
+    const QKeySequence sequence(text, QKeySequence::PortableText);
     if (sequence.count() != 1)
         return false;
     const int combined = sequence[0];
@@ -68,7 +70,7 @@ bool HST_InputSteps::handles(const QString& kind)
         || kind == QLatin1String("key");
 }
 
-bool HST_InputSteps::check(const QString& kind, const QJsonValue& value, QString& problem)
+bool HST_InputSteps::validate(const QString& kind, const QJsonValue& value, QString& problem)
 {
     if (kind == QLatin1String("key")) {
         int key = 0;

@@ -23,7 +23,7 @@ public:
 
     static bool handles(const QString& kind);
     // False with problem set when the value can't be played.
-    static bool check(const QString& kind, const QJsonValue& value, QString& problem);
+    static bool validate(const QString& kind, const QJsonValue& value, QString& problem);
     // The document the step acts on: its "document", else currentKey.
     static int documentOf(const QString& kind, const QJsonValue& value, int currentKey);
     // Plays a checked step on the document's window, then records it with what rectangle

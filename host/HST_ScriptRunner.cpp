@@ -107,7 +107,7 @@ bool HST_ScriptRunner::parse(
                 && !value.toArray().at(1).isArray() && !value.toArray().at(1).isObject();
         else if (HST_InputSteps::handles(kind)) {
             QString problem;
-            if (!HST_InputSteps::check(kind, value, problem)) {
+            if (!HST_InputSteps::validate(kind, value, problem)) {
                 error = where + QStringLiteral(": \"%1\": %2").arg(kind, problem);
                 return false;
             }
