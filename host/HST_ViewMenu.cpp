@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QSignalBlocker>
 
+#include <utility>
+
 HST_ViewMenu::HST_ViewMenu(HST_Host* host, QMenu* menu)
     : QObject(menu)
     , m_host(host)
@@ -74,7 +76,7 @@ QAction* HST_ViewMenu::addViewEntry(QMenu* menu, const QString& text, const QStr
     action->setObjectName(name);
     action->setCheckable(true);
     HST_Host* host = m_host;
-    connect(action, &QAction::triggered, this, [this, host, change] {
+    connect(action, &QAction::triggered, this, [this, host, change = std::move(change)] {
         const HST_Document* document = host->openDocument(host->currentDocumentKey());
         if (document) {
             HST_ViewState view = document->view();
@@ -83,7 +85,7 @@ QAction* HST_ViewMenu::addViewEntry(QMenu* menu, const QString& text, const QStr
         }
         refresh();
     });
-    m_refreshers.append([host, action, shows] {
+    m_refreshers.append([host, action, shows = std::move(shows)] {
         const HST_Document* document = host->openDocument(host->currentDocumentKey());
         const QSignalBlocker quiet(action);
         action->setEnabled(document != nullptr);
@@ -98,11 +100,11 @@ QAction* HST_ViewMenu::addToggle(QMenu* menu, const QString& text, const QString
     QAction* action = menu->addAction(text);
     action->setObjectName(name);
     action->setCheckable(true);
-    connect(action, &QAction::triggered, this, [this, state, set] {
+    connect(action, &QAction::triggered, this, [this, state, set = std::move(set)] {
         set(!state());
         refresh();
     });
-    m_refreshers.append([action, state] {
+    m_refreshers.append([action, state = std::move(state)] {
         const QSignalBlocker quiet(action);
         action->setChecked(state());
     });

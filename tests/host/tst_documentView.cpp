@@ -144,6 +144,17 @@ void tst_DocumentView::dragKeysAndUndo_data()
     QTest::newRow("zoom 1: the corner follows, Shift+Left widens leftwards")
         << zoom1 << QJsonArray() << QPoint(239, 179) << QPoint(259, 199) << quarter
         << QRect(80, 60, 180, 140) << QRect(79, 60, 181, 140);
+    // Steps count binned pixels where binning applies: to a camera's image, not a file's.
+    QTest::newRow("a camera binned 2 x 2: Shift+Left widens by two")
+        << QByteArray(R"({"cameras": [{"view": {"imageSize": [320, 240], "zoom": 1,
+                          "binning": 1}}]})")
+        << QJsonArray() << QPoint(239, 179) << QPoint(259, 199) << quarter
+        << QRect(80, 60, 180, 140) << QRect(78, 60, 182, 140);
+    QTest::newRow("a file's binning: Shift+Left widens by one")
+        << QByteArray(R"({"files": [{"view": {"imageSize": [320, 240], "zoom": 1,
+                          "binning": 1}}]})")
+        << QJsonArray() << QPoint(239, 179) << QPoint(259, 199) << quarter
+        << QRect(80, 60, 180, 140) << QRect(79, 60, 181, 140);
     // Turned clockwise, the image's bottom edge is on the window's left.
     QTest::newRow("zoom 0.5 turned 90: Shift+Left widens downwards")
         << QByteArray(R"({"view": {"imageSize": [320, 240], "zoom": 0.5, "rotation": 90},
