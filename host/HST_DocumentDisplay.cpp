@@ -2,8 +2,6 @@
 // the size of its window, so that they agree with what the window draws.
 #include "host/HST_Document.h"
 
-#include <cmath>
-
 void HST_Document::setView(const HST_ViewState& view)
 {
     m_view = view;

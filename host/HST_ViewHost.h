@@ -6,6 +6,7 @@
 #include <QPoint>
 
 #include <memory>
+#include <optional>
 
 class HST_PageStack;
 class HST_RectangleStep;
