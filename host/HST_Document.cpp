@@ -23,6 +23,7 @@ HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
     , m_spec(spec)
     , m_comment(spec.comment)
     , m_customData(spec.customData, context ? context->recorder : nullptr, key)
+    , m_cameraMedia(context, camera)
     , m_currentPartition(spec.partitions.isEmpty() ? 1 : spec.partitions.first().number)
 {
 }
@@ -532,4 +533,13 @@ bool HST_Document::canCheckSaved()
 {
     hostCall("document.canCheckSaved");
     return !m_spec.media.serialNo.isEmpty();
+}
+
+void HST_Document::setVaultPackDataName(int slot, int dataNo, const QString& name, int)
+{
+    hostCall("document.setVaultPackDataName");
+    m_cameraMedia.setDataName(slot, dataNo, name);
+    record(QStringLiteral("setVaultPackDataName"),
+        { { QStringLiteral("slot"), slot }, { QStringLiteral("dataNo"), dataNo },
+            { QStringLiteral("name"), name } });
 }

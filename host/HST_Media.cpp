@@ -95,6 +95,17 @@ HST_Media::Slot& HST_Media::slotOfDrive(HST_MediaKind kind, const QString& drive
         QStringLiteral("There is no %1 drive \"%2\".").arg(kindName(kind), drive), 1);
 }
 
+HST_Media::Slot& HST_Media::slotOfDriveNumber(HST_MediaKind kind, int driveNo)
+{
+    for (Slot& slot : m_slots) {
+        if (slot.kind == kind && slot.spec.present && !slot.spec.drive.isEmpty()
+            && letterNumber(slot.spec.drive) == driveNo)
+            return slot;
+    }
+    throw APP_Exception(
+        QStringLiteral("There is no %1 drive %2.").arg(kindName(kind)).arg(driveNo), 1);
+}
+
 HST_Media::Slot* HST_Media::slotOf(HST_MediaKind kind, int camera, int index)
 {
     for (Slot& slot : m_slots) {

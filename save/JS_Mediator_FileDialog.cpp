@@ -417,15 +417,15 @@ void JS_Mediator_FileDialog::setVaultPackPassword(int vpType, int driveNo)
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator_FileDialog::setVaultPackPassword"),
         parameter("vpType", vpType) + parameter("driveNo", driveNo));
-    dialogNotAvailable();
+    UTL_Barrier::reported(m_host, [&] { m_drives.setStorageUnitPassword(vpType, driveNo); });
 }
 
 bool JS_Mediator_FileDialog::existSetVaultPackPassword(int vpType, int driveNo)
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator_FileDialog::existSetVaultPackPassword"),
         parameter("vpType", vpType) + parameter("driveNo", driveNo));
-    dialogNotAvailable();
-    return false;
+    return UTL_Barrier::reported(
+        m_host, false, [&] { return m_host->hasStorageUnitPassword(vpType, driveNo); });
 }
 
 // Drives

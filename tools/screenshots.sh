@@ -38,4 +38,10 @@ shoot_dialog "$root/host/scenarios/media.json" fileopendialog "$out/open-dialog.
 shoot_dialog "$root/host/scenarios/save.json" addnumberdialog:2 "$out/number-dialog.png"
 shoot_dialog "$root/host/scenarios/save.json" convertparametereditdialog \
     "$out/conversion-settings.png"
+# Removable media panels and the storage unit's password dialogs.
+shoot_page "$root/host/scenarios/media-panels.json" savesd "$out/media-panel-sd.png" savesd
+shoot_dialog "$root/host/scenarios/media-panels.json" change_password_dialog \
+    "$out/change-password-dialog.png"
+shoot_dialog "$root/host/scenarios/media-panels.json" input_password_dialog \
+    "$out/input-password-dialog.png"
 ls -1 "$out"
