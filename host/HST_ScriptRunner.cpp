@@ -480,9 +480,11 @@ HST_ScriptRunner::Result HST_ScriptRunner::runScript(const QString& code, QWidge
             }
         }
     }
-    // A page still loading has no scripts to call yet.
-    if (!view
-        || view->page()->mainFrame()->evaluateJavaScript(QStringLiteral("document.readyState"))
+    // A page still loading has no scripts to call yet; nor has a view whose load hasn't begun,
+    // though its empty document says it is complete.
+    QWebFrame* frame = view ? view->page()->mainFrame() : nullptr;
+    if (!frame || frame->url().isEmpty() || frame->url() != frame->requestedUrl()
+        || frame->evaluateJavaScript(QStringLiteral("document.readyState"))
             != QLatin1String("complete"))
         return Result::Waiting;
     QPointer<QWebView> guarded(view);

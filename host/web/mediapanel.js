@@ -87,7 +87,10 @@ var mediaPanel = (function () {
             chosen = -1;
     }
 
-    function refresh() {
+    // Also the page kit's refresh, which runs before init has given the mediator back.
+    function refresh(mediator) {
+        if (mediator)
+            m = mediator;
         fillCameras();
         var key = Number($('#camera').val());
         var hasCamera = $('#camera option').length > 0;
@@ -174,7 +177,7 @@ var mediaPanel = (function () {
                 m = hostpage.init(name, { refresh: refresh });
                 if (!m)
                     return;
-                m.refreshed.connect(refresh);
+                m.refreshed.connect(function () { refresh(); });
                 $('#camera').change(function () { chosen = -1; $('#slot').empty(); refresh(); });
                 $('#slot').change(function () { chosen = -1; refresh(); });
                 $('#format').click(format);
