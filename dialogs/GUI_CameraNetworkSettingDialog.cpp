@@ -2,6 +2,8 @@
 
 #include "dialogs/JS_Mediator_CameraNetworkSettingDialog.h"
 
+#include <QCloseEvent>
+
 GUI_CameraNetworkSettingDialog::GUI_CameraNetworkSettingDialog(APP_Host* host, QWidget* parent)
     : GUI_WebViewDialog(host, QStringLiteral("Camera Network Setting"),
         QStringLiteral("qrc:/livecontrol_searchsetting.html"),
@@ -21,4 +23,14 @@ void GUI_CameraNetworkSettingDialog::cancel()
 {
     reject();
     close();
+}
+
+void GUI_CameraNetworkSettingDialog::closeEvent(QCloseEvent* event)
+{
+    // Hidden means ended, by cancel's reject among others: closing it must not reject it again.
+    if (!isVisible()) {
+        event->accept();
+        return;
+    }
+    GUI_WebViewDialog::closeEvent(event);
 }

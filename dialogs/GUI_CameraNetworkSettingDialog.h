@@ -13,5 +13,9 @@ public:
 public slots:
     // Does nothing: the page's OK goes through the mediator.
     void ok();
+    // Rejects, then closes; rejected() comes once.
     void cancel();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 };

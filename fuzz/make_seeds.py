@@ -136,6 +136,9 @@ def text_helpers():
 def scenario():
     seeds = {
         "empty.json": b"{}",
+        "timecode.json": b'{"timeCode": {"index": 1, "displayUnit": "deg", "oneFrame": -0.5, "startValue": 10,'
+                         b' "reset": true, "resetValue": 8, "scopeDisplayIndex": 3, "decimalPlaceIndex": 2,'
+                         b' "decimalDivide": true, "usingFileInfo": false, "overwrite": true, "realTime": false}}',
         "cameras.json": b'{"mode": 0, "syncCapableTypes": [1, 2], "cameras": [{"name": "A", "ip": "192.168.0.10",'
                         b' "type": 1, "documents": 2, "dummy": false, "needsErase": true}, {"ip": "192.168.0.11",'
                         b' "triggerMode": 2, "exposureTimingFlag": 1}], "files": 3}',
@@ -207,6 +210,17 @@ def save_lists():
         write("fuzz_save_lists", name, data)
 
 
+def display_list():
+    # [order a page reports]\n[the list as the preference holds it]
+    seeds = {
+        "default.txt": b"\nSyncSignalState:true,CameraState:true,<hr>,Camera name:true,Comment:false,Logo:false",
+        "reordered.txt": b"Comment,HR,Camera name,Unknown\nCamera name:true,<hr>,Comment:false",
+        "broken.txt": b"HR,HR,a\na,a:true,:x,b:,c:true:false,<hr>,x'><script>:true,,\xe6\x9d\xb1:true",
+    }
+    for name, data in seeds.items():
+        write("fuzz_display_list", name, data)
+
+
 if __name__ == "__main__":
     visa_reply()
     visa_session()
@@ -216,3 +230,4 @@ if __name__ == "__main__":
     custom_info()
     camera_names()
     save_lists()
+    display_list()

@@ -3,6 +3,7 @@
 #include "host/HST_CameraState.h"
 #include "host/HST_DocumentDescription.h"
 #include "host/HST_Faults.h"
+#include "host/HST_InfoHost.h"
 #include "host/HST_Media.h"
 #include "host/HST_NumberOption.h"
 #include "host/HST_Preview.h"
@@ -429,14 +430,6 @@ QVariantMap HST_Document::documentDescription(bool convert)
     return HST_DocumentDescription::of(*this, convert);
 }
 
-QPixmap HST_Document::previewPixmap(
-    int, int width, int height, int partition, int, const QDateTime&)
-{
-    hostCall("document.previewPixmap");
-    const HST_PartitionSpec* spec = partitionSpec(partition);
-    return spec ? HST_Preview::preview(m_key, title(), *spec, width, height) : QPixmap();
-}
-
 bool HST_Document::isMultiSkipA()
 {
     hostCall("document.isMultiSkipA");
@@ -533,6 +526,28 @@ bool HST_Document::canCheckSaved()
 {
     hostCall("document.canCheckSaved");
     return !m_spec.media.serialNo.isEmpty();
+}
+
+QPixmap HST_Document::previewPixmap(
+    int, int width, int height, int partition, int set, const QDateTime&)
+{
+    hostCall("document.previewPixmap");
+    // A document the scenario gives no partitions shows its plain frame for any.
+    if (!m_spec.partitions.isEmpty() && !partitionSpec(partition))
+        return QPixmap();
+    // Sizes a page can't show are held to what it can.
+    const QSize size = QSize(width, height).expandedTo(QSize(1, 1)).boundedTo(QSize(8192, 8192));
+    if (!m_context || !m_context->info)
+        return QPixmap(size);
+    return m_context->info->informationPreview(*this, size, partition, set);
+}
+
+void HST_Document::reloadLogo()
+{
+    hostCall("document.reloadLogo");
+    record(QStringLiteral("reloadLogo"), {});
+    if (m_context && m_context->info)
+        m_context->info->reloadLogos();
 }
 
 void HST_Document::setVaultPackDataName(int slot, int dataNo, const QString& name, int)

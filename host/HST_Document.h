@@ -14,6 +14,7 @@
 struct HST_CameraState;
 class HST_Faults;
 class HST_Media;
+class HST_InfoHost;
 class HST_Preferences;
 class HST_Recorder;
 
@@ -32,6 +33,8 @@ struct HST_DocumentContext
     HST_Media* media = nullptr;
     // Closes a document whose file was deleted.
     std::function<void(int key)> closeDocument;
+    // Draws previews with the information block and reloads logos.
+    HST_InfoHost* info = nullptr;
     // A camera formats one of its slots: what is open of it closes, and the format is recorded.
     std::function<void(HST_MediaKind kind, int camera, int index)> formatSlot;
 };
@@ -58,6 +61,7 @@ public:
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
+    QSize resolution() const { return imageSizeValue(); }
     // What the host's window shows for it: the camera's name, or the file's.
     QString title() const;
     // The host's selection; not operations of the plug-in's, so neither recorded nor faulted.
@@ -123,6 +127,8 @@ public:
     }
     void setComment(const QString& text) override;
     bool imageFormat(int& depth, int& realDepth) override;
+    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int set,
+        const QDateTime& dateTime) override;
 
     // DOC_Camera
     QString ipAddress(bool current = true) override;
@@ -416,6 +422,7 @@ public:
         hostCall("document.binningExponent");
         return 0;
     }
+    void reloadLogo() override;
 
     // DOC_HeadGroup
     bool isHeadGroupOwner() override
@@ -435,8 +442,8 @@ public:
 
     // What a save takes of it (HST_DocumentDescription, HST_Preview, HST_SaveWriter).
     QVariantMap documentDescription(bool convert) override;
-    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int reserved,
-        const QDateTime& dateTime) override;
+    // The scenario's partition, or null for a number out of range.
+    const HST_PartitionSpec* partitionSpec(int partition) const;
     bool isMultiSkipA() override;
     bool isMultiSkipB() override;
     bool isOnSd() override;
@@ -461,7 +468,6 @@ private:
     void hostCall(const char* operation) const;
     void record(const QString& call, QJsonObject fields) const;
     QSize imageSizeValue() const;
-    const HST_PartitionSpec* partitionSpec(int partition) const;
     QString firmwarePart(int index) const;
     void setSaveOption(const char* operation, const char* name, bool& option, bool on);
 

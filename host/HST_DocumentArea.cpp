@@ -12,6 +12,13 @@ HST_DocumentArea::HST_DocumentArea(HST_Host* host, QWidget* parent)
     , m_host(host)
 {
     setObjectName(QStringLiteral("host_documentArea"));
+    // The information block follows the preferences and the documents.
+    const auto repaint = [this] {
+        for (HST_DocumentView* view : findChildren<HST_DocumentView*>())
+            view->update();
+    };
+    connect(host, &HST_Host::uiUpdateRequested, this, repaint);
+    connect(host, &HST_Host::stateChanged, this, repaint);
 }
 
 void HST_DocumentArea::sync()
@@ -32,6 +39,10 @@ void HST_DocumentArea::sync()
         if (m_windows.contains(it.key()))
             continue;
         auto* view = new HST_DocumentView(it.key(), it.value()->title());
+        const int key = it.key();
+        view->setOverlay([this, key](QPainter& painter, const QRect& image) {
+            m_host->paintInformation(key, painter, image);
+        });
         QMdiSubWindow* window = addSubWindow(view);
         window->setObjectName(QStringLiteral("document_%1").arg(it.key()));
         window->setWindowTitle(it.value()->title());

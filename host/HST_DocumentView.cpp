@@ -52,4 +52,6 @@ void HST_DocumentView::paintEvent(QPaintEvent*)
     target.moveCenter(rect().center());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(target, m_frame);
+    if (m_overlay)
+        m_overlay(painter, target);
 }

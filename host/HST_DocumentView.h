@@ -4,6 +4,10 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+
+class QPainter;
+
 // The window of one open document: the simulated frame of its camera (or file), drawn to fit.
 // The frame is what the support file and the clipboard get as the document's current image.
 class HST_DocumentView : public QWidget
@@ -21,10 +25,15 @@ public:
 
     QSize sizeHint() const override { return QSize(320, 240); }
 
+    // Drawn over the image after it, in the view's coordinates; the rectangle is the image's.
+    using Overlay = std::function<void(QPainter&, const QRect&)>;
+    void setOverlay(Overlay overlay) { m_overlay = std::move(overlay); }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     int m_key;
     QImage m_frame;
+    Overlay m_overlay;
 };

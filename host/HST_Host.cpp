@@ -75,7 +75,7 @@ static void initResources()
 HST_Host::HST_Host(
     const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
     : QObject(parent)
-    , HST_MediaHost(recorder)
+    , HST_InfoHost(recorder, scenario.timeCode)
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
@@ -114,7 +114,8 @@ void HST_Host::setTypeRecords(const QList<int>& types)
 bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
 {
     for (const char* fixed : { "visa", "generator", "faults", "exportSupportFile", "versionText",
-             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry", "writer" }) {
+             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry", "writer",
+             "timeCode" }) {
         if (world.contains(QLatin1String(fixed))) {
             error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
             return false;

@@ -6,6 +6,7 @@
 #include "host/HST_DocumentArea.h"
 #include "host/HST_FileDialogMenu.h"
 #include "host/HST_Host.h"
+#include "host/HST_PageMenus.h"
 #include "host/HST_PagePanel.h"
 #include "host/HST_Recorder.h"
 #include "plugin/PLG_Interface.h"
@@ -166,6 +167,15 @@ void HST_MainWindow::addPageActions()
     for (const HST_DialogOpener::Page& page : m_opener->pages()) {
         if (HST_FileDialogMenu::isFileDialog(page.name))
             continue;
+        const QList<HST_PageMenuEntry> placed = HST_PageMenus::entries(page.name);
+        for (const HST_PageMenuEntry& entry : placed) {
+            const QString name = page.name;
+            const QString arg = entry.arg;
+            connect(pageMenu(entry.menu)->addAction(entry.text), &QAction::triggered, this,
+                [this, name, arg] { m_opener->open(name, arg); });
+        }
+        if (!placed.isEmpty())
+            continue;
         const QString title = m_host->translatedText(page.title);
         QMenu* menu = page.kind == QLatin1String("dialog") ? m_toolsMenu : m_viewMenu;
         QAction* action = menu->addAction(
@@ -177,6 +187,17 @@ void HST_MainWindow::addPageActions()
     const bool statusPageThere = m_opener->hasPage(statusPage);
     for (QAction* action : qAsConst(m_pageActions))
         action->setEnabled(statusPageThere);
+}
+
+QMenu* HST_MainWindow::pageMenu(const QString& title)
+{
+    for (QAction* action : menuBar()->actions()) {
+        if (action->menu() && action->text().remove(QLatin1Char('&')) == title)
+            return action->menu();
+    }
+    auto* menu = new QMenu(QLatin1Char('&') + title, menuBar());
+    menuBar()->insertMenu(m_toolsMenu->menuAction(), menu);
+    return menu;
 }
 
 void HST_MainWindow::clickStatusPageButton(const QString& id)

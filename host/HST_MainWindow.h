@@ -53,6 +53,8 @@ private:
     void fillDocuments();
     void buildMenus();
     void addPageActions();
+    // The top-level menu of that title, made before Tools when it isn't there.
+    QMenu* pageMenu(const QString& title);
     // Clicks a button of the host status page, so that the action stays the page's call.
     void clickStatusPageButton(const QString& id);
 

@@ -2,6 +2,7 @@
 
 #include "host/HST_Json.h"
 #include "host/HST_MediaScenario.h"
+#include "host/HST_TimeCodeScenario.h"
 #include "plugin/SharedKeys.h"
 
 #include <QFile>
@@ -482,7 +483,7 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
         { "mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync", "visa",
             "generator", "faults", "versionText", "defaultCameraName", "cameraNameList",
             "deviceCount", "saveRegistry", "status", "recordingStatus", "exportSupportFile",
-            "loopSave", "writer" });
+            "loopSave", "writer", "timeCode" });
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
@@ -558,6 +559,13 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     if (root.contains(QLatin1String("status")))
         readStatus(root, out);
     out.recordingStatus = readInt(root, QString(), QStringLiteral("recordingStatus"), 0, 0, 4);
+    if (root.contains(QLatin1String("timeCode"))) {
+        QString key;
+        QString problem;
+        if (!HST_TimeCodeScenario::read(
+                root.value(QLatin1String("timeCode")), out.timeCode, key, problem))
+            refuse(key, problem);
+    }
     out.visa = readBool(root, QString(), QStringLiteral("visa"), false);
     if (root.contains(QLatin1String("generator"))) {
         const QString path = QStringLiteral("generator");

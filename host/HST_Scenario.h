@@ -2,6 +2,7 @@
 
 #include "host/HST_Fault.h"
 #include "host/HST_MediaSpec.h"
+#include "plugin/APP_TimeCodeRecord.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -150,6 +151,8 @@ public:
     bool loopSaveMode = false;
     bool loopSaveActive = false;
     HST_WriterSpec writer;
+    // The time code record the host starts with (HST_TimeCodeScenario).
+    APP_TimeCodeRecord timeCode;
     // Where the scenario came from, for messages.
     QString source;
 

@@ -99,6 +99,8 @@ bool HST_ScriptRunner::parse(
                 && (value.toArray().at(1).isString() || value.toArray().at(1).isNull());
         else if (kind == QLatin1String("world"))
             ok = value.isObject();
+        else if (kind == QLatin1String("close"))
+            ok = value.isNull();
         else if (kind == QLatin1String("wait"))
             ok = value.isDouble() && value.toDouble() >= 0;
         else if (kind == QLatin1String("set"))
@@ -220,6 +222,15 @@ HST_ScriptRunner::Result HST_ScriptRunner::act(QJsonObject step, QWidget* window
         return visit(value.toArray(), window);
     if (!window)
         return Result::Waiting;
+    if (kind == QLatin1String("close")) {
+        // As the title bar's close button: the window gets its close event.
+        QPointer<QWidget> guarded(window);
+        postAction([guarded] {
+            if (guarded)
+                guarded->close();
+        });
+        return Result::Done;
+    }
     if (kind == QLatin1String("click"))
         return click(value.toString(), window);
     if (kind == QLatin1String("set"))
@@ -480,11 +491,12 @@ HST_ScriptRunner::Result HST_ScriptRunner::runScript(const QString& code, QWidge
             }
         }
     }
-    // A page still loading has no scripts to call yet; nor has a view whose load hasn't begun,
-    // though its empty document says it is complete.
-    QWebFrame* frame = view ? view->page()->mainFrame() : nullptr;
-    if (!frame || frame->url().isEmpty() || frame->url() != frame->requestedUrl()
-        || frame->evaluateJavaScript(QStringLiteral("document.readyState"))
+    if (!view)
+        return Result::Waiting;
+    // A page still loading hasn't run its scripts yet: wait, as a user waits for it to fill.
+    QWebFrame* frame = view->page()->mainFrame();
+    if (frame->url().isEmpty()
+        || frame->evaluateJavaScript(QStringLiteral("document.readyState")).toString()
             != QLatin1String("complete"))
         return Result::Waiting;
     QPointer<QWebView> guarded(view);

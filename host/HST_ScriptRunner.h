@@ -26,9 +26,9 @@ struct HST_ScriptHost
 
 // Plays a list of steps against the application's active modal window, as a user would:
 // {"click": TEXT-OR-OBJECTNAME}, {"set": [OBJECTNAME, VALUE]}, {"js": CODE},
-// {"screenshot": FILE}, {"wait": MS}, {"visit": [OPENER, CLOSER]}, {"file": PATH} (the active
-// file dialog); against the main window: {"menu": "Menu/Entry"}; and against the host while no
-// plug-in runs: {"press": NAME}, {"open": NAME}, {"world": SCENARIO-PART}. A step with
+// {"screenshot": FILE}, {"wait": MS}, {"visit": [OPENER, CLOSER]}, {"close": null}, {"file": PATH}
+// (the active file dialog); against the main window: {"menu": "Menu/Entry"}; and against the host
+// while no plug-in runs: {"press": NAME}, {"open": NAME}, {"world": SCENARIO-PART}. A step with
 // "window": NAME acts in that non-modal window or dock panel instead. README lists them.
 //
 // A modal dialog blocks whoever opened it, so the steps are driven by a polling timer, and

@@ -1,6 +1,7 @@
 // The device dialogs' mediators and the camera name list against the reference host.
 #include "../ScenarioHost.h"
 
+#include "dialogs/GUI_CameraNetworkSettingDialog.h"
 #include "dialogs/JS_Mediator_AddDeviceDialog.h"
 #include "dialogs/JS_Mediator_AutoCameraName.h"
 #include "dialogs/JS_Mediator_CameraNetworkSettingDialog.h"
@@ -33,6 +34,7 @@ private slots:
     void editOk_data();
     void editOk();
     void searchSettings();
+    void searchDialogCancelRejectsOnce();
     void nameList_data();
     void nameList();
     void nameListAvailability_data();
@@ -234,6 +236,19 @@ void tst_DeviceDialogs::searchSettings()
     mediator.cancel();
     QCOMPARE(mediator.getCameraSearchWay(), 2);
     QCOMPARE(mediator.getCameraSearchIPAddress(), QStringLiteral("10.1.0.0"));
+}
+
+void tst_DeviceDialogs::searchDialogCancelRejectsOnce()
+{
+    QVERIFY(start("{}"));
+    GUI_CameraNetworkSettingDialog dialog(m_host.get(), nullptr);
+    QSignalSpy rejected(&dialog, &QDialog::rejected);
+    QSignalSpy told(dialog.mediator(), &JS_Mediator_Dialog::rejected);
+    dialog.show();
+    dialog.cancel();
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(rejected.size(), 1);
+    QCOMPARE(told.size(), 1);
 }
 
 void tst_DeviceDialogs::nameList_data()

@@ -107,6 +107,12 @@ void tst_Scenario::read_data()
     QTest::newRow("loop save given as a flag")
         << QString() << QByteArray(R"({"loopSave": true})")
         << QStringList { "\"loopSave\"", "expected an object" };
+    QTest::newRow("time code value beyond a time code")
+        << QString() << QByteArray("{\"timeCode\": {\"oneFrame\": 1e9}}")
+        << QStringList { "\"timeCode.oneFrame\"", "beyond 9.999e8" };
+    QTest::newRow("time code key the record doesn't have")
+        << QString() << QByteArray("{\"timeCode\": {\"step\": 1}}")
+        << QStringList { "\"timeCode.step\"", "unknown key" };
 }
 
 void tst_Scenario::read()
