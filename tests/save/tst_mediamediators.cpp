@@ -3,6 +3,8 @@
 // and without the user's consent, and a medium taken out half way.
 #include "../ScenarioHost.h"
 
+#include "save/FileDialogKind.h"
+#include "save/JS_Mediator_FileDialog.h"
 #include "save/JS_Mediator_SaveCFast.h"
 #include "save/JS_Mediator_SaveSD.h"
 #include "save/JS_Mediator_SaveVaultPack.h"
@@ -46,6 +48,7 @@ private slots:
     void format();
     void dataName_data();
     void dataName();
+    void passwordOfADriveThatIsNotThere();
 
 private:
     // camera: the keys of the one camera; beyond: more keys of the scenario.
@@ -326,6 +329,18 @@ void tst_MediaMediators::dataName()
     vaultPack.convertDataName(1, 0, 1, typed, 7);
     const QJsonArray rows = QJsonDocument::fromJson(vaultPack.getDataList(1, 0).toUtf8()).array();
     QTEST(rows.at(1).toObject().value(QStringLiteral("name")).toString(), "stored");
+}
+
+void tst_MediaMediators::passwordOfADriveThatIsNotThere()
+{
+    const QString unit
+        = QStringLiteral(R"("media": {"storageUnit": [{"drive": "F:", "password": "pw"}]})");
+    QVERIFY(start(unit));
+    JS_Mediator_FileDialog files(m_host.get(), FileDialogKind::open);
+    QVERIFY(files.existSetVaultPackPassword(0, 5));
+    QVERIFY(!files.existSetVaultPackPassword(0, 99));
+    QCOMPARE(events(QStringLiteral("reportException"), QStringLiteral("text")),
+        QStringList { "There is no storage unit drive 99." });
 }
 
 QTEST_MAIN(tst_MediaMediators)
