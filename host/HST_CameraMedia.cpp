@@ -11,7 +11,7 @@
 
 namespace {
 
-const quint64 megabyte = 1024 * 1024;
+const quint64 megabyte = quint64(1024) * 1024;
 
 quint32 bcd(int value)
 {
