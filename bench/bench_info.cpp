@@ -74,9 +74,7 @@ int main(int argc, char** argv)
 
     // The view of the document at full HD: the frame and the block, after a change of the
     // font size, as the host repaints it.
-    HST_DocumentView view(1, QStringLiteral("Camera"));
-    view.setOverlay(
-        [&host](QPainter& painter, const QRect& area) { host.paintInformation(1, painter, area); });
+    HST_DocumentView view(&host, host.openDocument(1));
     view.resize(1920, 1080);
     QImage target(1920, 1080, QImage::Format_ARGB32_Premultiplied);
     // The preferences' file is written at each change; that is the store's cost, not the

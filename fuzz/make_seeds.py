@@ -159,9 +159,25 @@ def scenario():
                        b' "recordingStatus": 4, "exportSupportFile": {"result": "error"},'
                        b' "cameras": [{"connected": false, "functions": [176, 117], "bitDepth": 12,'
                        b' "realBitDepth": 10, "deviceName": "", "mobile": true}]}',
+        "views.json": b'{"view": {"zoom": 0.5, "imageSize": [640, 480]}, "multiLock": true, "crossCursor": false,'
+                      b' "cameras": [{"view": {"rotation": 90, "mirrorHorizontally": true, "binning": 2,'
+                      b' "scaleFactor": 2, "fullImageSize": [1280, 960]}}], "files": [{"view": {"zoom": 0,'
+                      b' "rotation": 270, "mirrorVertically": true}}]}',
     }
     for name, data in seeds.items():
         write("fuzz_scenario", name, data)
+
+
+def input_steps():
+    seeds = {
+        "drag.json": b'{"drag": {"document": 1, "from": [239, 179], "to": [260, 200], "steps": 3}}',
+        "mouse.json": b'{"mouse": {"document": 2, "press": [10.5, -3]}}',
+        "leave.json": b'{"mouse": {"leave": true}}',
+        "key.json": b'{"key": "Shift+Ctrl+Left"}',
+        "refused.json": b'{"drag": {"from": [1], "to": "x", "steps": 0}, "key": "Left, Right"}',
+    }
+    for name, data in seeds.items():
+        write("fuzz_input_steps", name, data)
 
 
 def custom_info():
@@ -227,6 +243,7 @@ if __name__ == "__main__":
     sim_request()
     text_helpers()
     scenario()
+    input_steps()
     custom_info()
     camera_names()
     save_lists()

@@ -26,6 +26,7 @@ HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
     , m_customData(spec.customData, context ? context->recorder : nullptr, key)
     , m_cameraMedia(context, camera)
     , m_currentPartition(spec.partitions.isEmpty() ? 1 : spec.partitions.first().number)
+    , m_view(spec.view)
 {
 }
 
@@ -174,18 +175,6 @@ QString& HST_Document::sortName(QString& out)
 {
     hostCall("document.sortName");
     return baseName(out);
-}
-
-QSize HST_Document::imageSize(QSize& out)
-{
-    hostCall("document.imageSize");
-    out = imageSizeValue();
-    return out;
-}
-
-QSize HST_Document::imageSizeValue() const
-{
-    return QSize(1024, 1024);
 }
 
 QString HST_Document::ipAddress(bool)

@@ -5,9 +5,11 @@
 #include "host/HST_Scenario.h"
 #include "plugin/DOC_Interface.h"
 
+#include <QPointer>
 #include <QSize>
 #include <QString>
 #include <QVariantList>
+#include <QWidget>
 
 #include <functional>
 
@@ -61,12 +63,22 @@ public:
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
-    QSize resolution() const { return imageSizeValue(); }
+    QSize resolution() const { return m_view.imageSize; }
     // What the host's window shows for it: the camera's name, or the file's.
     QString title() const;
     // The host's selection; not operations of the plug-in's, so neither recorded nor faulted.
     bool selected() const { return m_selected; }
     void setSelected(bool selected) { m_selected = selected; }
+    // How its window shows it (HST_DocumentDisplay.cpp); the host's own, neither recorded nor
+    // faulted.
+    const HST_ViewState& view() const { return m_view; }
+    void setView(const HST_ViewState& view);
+    void setViewWidget(QWidget* widget) { m_viewWidget = widget; }
+    QWidget* viewWidget() const { return m_viewWidget; }
+    // The size of its window, empty without one.
+    QSize windowSize() const;
+    // Schedules a repaint of its window, if it has one.
+    void repaintView() const;
 
     // DOC_Interface
     DOC_Camera* asCamera() override;
@@ -94,7 +106,8 @@ public:
     QString& baseName(QString& out) override;
     bool isMobile() override;
     QString& partitionName(QString& out, int partition) override;
-    void refresh(bool) override { hostCall("document.refresh"); }
+    // Schedules a repaint of its window.
+    void refresh(bool) override;
     QString& sortName(QString& out) override;
     bool isRostraLocked() override;
 
@@ -105,21 +118,9 @@ public:
     // DOC_ImageData
     QSize imageSize(QSize& out) override;
     void setCursorPosition(const QPoint&) override { hostCall("document.setCursorPosition"); }
-    void extent(QSize& out) override
-    {
-        hostCall("document.extent");
-        out = imageSizeValue();
-    }
-    void viewToImage(QPoint& out, const QPoint& viewPos, bool) override
-    {
-        hostCall("document.viewToImage");
-        out = viewPos;
-    }
-    bool isRotatedQuarter() override
-    {
-        hostCall("document.isRotatedQuarter");
-        return false;
-    }
+    void extent(QSize& out) override;
+    void viewToImage(QPoint& out, const QPoint& viewPos, bool) override;
+    bool isRotatedQuarter() override;
     QString& comment(QString& out) override
     {
         hostCall("document.comment");
@@ -134,21 +135,9 @@ public:
     QString ipAddress(bool current = true) override;
     int cameraType() override;
     QString cameraName(bool current = true) override;
-    void fullImageSize(QSize& out) override
-    {
-        hostCall("document.fullImageSize");
-        out = imageSizeValue();
-    }
-    bool hasScaleFactor() override
-    {
-        hostCall("document.hasScaleFactor");
-        return false;
-    }
-    int scaleFactor() override
-    {
-        hostCall("document.scaleFactor");
-        return 1;
-    }
+    void fullImageSize(QSize& out) override;
+    bool hasScaleFactor() override;
+    int scaleFactor() override;
     int partitionRate(int partition) override
     {
         hostCall("document.partitionRate");
@@ -397,31 +386,11 @@ public:
         hostCall("document.isToolSet");
         return false;
     }
-    float rotationFraction() override
-    {
-        hostCall("document.rotationFraction");
-        return 0.0f;
-    }
-    bool isMirroredHorizontally() override
-    {
-        hostCall("document.isMirroredHorizontally");
-        return false;
-    }
-    bool isMirroredVertically() override
-    {
-        hostCall("document.isMirroredVertically");
-        return false;
-    }
-    float zoomFactor(bool) override
-    {
-        hostCall("document.zoomFactor");
-        return 1.0f;
-    }
-    int binningExponent() override
-    {
-        hostCall("document.binningExponent");
-        return 0;
-    }
+    float rotationFraction() override;
+    bool isMirroredHorizontally() override;
+    bool isMirroredVertically() override;
+    float zoomFactor(bool) override;
+    int binningExponent() override;
     void reloadLogo() override;
 
     // DOC_HeadGroup
@@ -467,7 +436,6 @@ public:
 private:
     void hostCall(const char* operation) const;
     void record(const QString& call, QJsonObject fields) const;
-    QSize imageSizeValue() const;
     QString firmwarePart(int index) const;
     void setSaveOption(const char* operation, const char* name, bool& option, bool on);
 
@@ -484,4 +452,6 @@ private:
     bool m_saveInfo = false;
     bool m_saveCorrect = false;
     bool m_saveScale = false;
+    HST_ViewState m_view;
+    QPointer<QWidget> m_viewWidget;
 };

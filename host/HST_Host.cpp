@@ -75,7 +75,7 @@ static void initResources()
 HST_Host::HST_Host(
     const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
     : QObject(parent)
-    , HST_InfoHost(recorder, scenario.timeCode)
+    , HST_ViewHost(recorder, scenario.timeCode)
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
@@ -100,6 +100,7 @@ HST_Host::HST_Host(
     setDeviceCount(scenario.deviceCount);
     addDocuments(scenario.cameras, scenario.fileDocuments);
     setSaveWorld(scenario);
+    presetTools(scenario.multiLock, scenario.crossCursor);
 }
 
 void HST_Host::setTypeRecords(const QList<int>& types)
@@ -142,6 +143,9 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
     }
     if (has("recordingStatus"))
         setRecordingStatus(part.recordingStatus);
+    if (has("multiLock") || has("crossCursor"))
+        presetTools(has("multiLock") ? part.multiLock : multiLock(),
+            has("crossCursor") ? part.crossCursor : crossCursor());
     if (has("hubs")) {
         // A hub the plug-in still points to stays alive.
         m_retiredHubs.push_back(std::move(m_hubs));

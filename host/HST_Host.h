@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/HST_InfoHost.h"
 #include "host/HST_SaveRegistry.h"
 #include "host/HST_Scenario.h"
+#include "host/HST_ViewHost.h"
 #include "plugin/APP_CameraTypeRecord.h"
 
 #include <QMessageBox>
@@ -21,10 +21,11 @@ class QTranslator;
 
 // The reference host: APP_Host over the simulated cameras, documents and hubs of a scenario.
 // Messages are real message boxes, preferences an INI file, and every call the plug-in makes
-// that a test may want to see is recorded. The documents are in HST_DocumentHost, the status
-// queries in HST_StatusHost, removable media and saving in HST_MediaHost, the information block
-// in HST_InfoHost, the operations the simulation doesn't model in HST_NeutralHost.
-class HST_Host : public QObject, public HST_InfoHost
+// that a test may want to see is recorded. The documents are in HST_DocumentHost, their windows
+// as plug-ins meet them in HST_ViewHost, the status queries in HST_StatusHost, removable media
+// and saving in HST_MediaHost, the information block in HST_InfoHost, the operations the
+// simulation doesn't model in HST_NeutralHost.
+class HST_Host : public QObject, public HST_ViewHost
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Regenerates the README's screenshots of the sync dialog and the common dialogs under Xvfb
-# (after tools/build.sh).
+# Regenerates the README's screenshots of the sync dialog, the common dialogs and the region of
+# interest under Xvfb (after tools/build.sh).
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 host="$root/build/host/tarvix4host"
@@ -77,6 +77,14 @@ shoot_info_dialog "$info" shutterspeed_format_dialog "$out/format-shutter-speed.
 shoot_info_dialog "$info" recordrate_format_dialog "$out/format-record-rate.png"
 shoot_info_dialog "$info" frame_format_dialog "$out/format-frame.png"
 shoot_info_dialog "$info" rectime_format_dialog "$out/format-recording-time.png"
+# The region of interest's page and its rectangle on a document, dragged by its corner.
+roi_prefs="$(mktemp -d)/prefs.ini"
+printf '[{"press": "roi"}, {"wait": 500}, {"mouse": {"document": 1, "press": [10, 10]}},
+  {"mouse": {"document": 1, "release": [10, 10]}},
+  {"drag": {"document": 1, "from": [215, 161], "to": [250, 190], "steps": 5}},
+  {"wait": 300}, {"screenshot": "%s"}]' "$out/roi-rectangle.png" > "$roi_prefs.script"
+xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$root/host/scenarios/roi.json" \
+    --prefs "$roi_prefs" --script "$roi_prefs.script" --quit > /dev/null
 # Removable media panels and the storage unit's password dialogs.
 shoot_page "$root/host/scenarios/media-panels.json" savesd "$out/media-panel-sd.png" savesd
 shoot_info_dialog "$root/host/scenarios/media-panels.json" change_password_dialog \
