@@ -6,6 +6,7 @@
 #include "host/HST_Host.h"
 #include "host/HST_MainWindow.h"
 #include "host/HST_Recorder.h"
+#include "tests/HostRecord.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -16,10 +17,7 @@
 
 namespace {
 
-QJsonObject js(const QString& code)
-{
-    return { { QStringLiteral("js"), code } };
-}
+using hoststeps::js;
 
 QJsonObject file(const QString& path)
 {
@@ -76,32 +74,19 @@ private slots:
     void searchSetting();
 
 private:
-    struct Run
+    struct Run : HostRecord
     {
-        int code = -1;
         int result = -2; // the dialog's, from the record's open end
-        QList<QJsonObject> events;
         // Per document: "name=value unit:display:usefilename" for each item.
         QMap<int, QStringList> items;
         // The main window's document table: "key name address" per row.
         QStringList table;
-        QList<QJsonObject> of(const QString& call) const;
         QStringList values(const QString& call, const QStringList& fields) const;
     };
     Run run(const QByteArray& scenario, const QString& open, const QJsonArray& steps);
 
     QTemporaryDir m_dir;
 };
-
-QList<QJsonObject> tst_DialogPages::Run::of(const QString& call) const
-{
-    QList<QJsonObject> found;
-    for (const QJsonObject& event : events) {
-        if (event.value(QStringLiteral("call")).toString() == call)
-            found.append(event);
-    }
-    return found;
-}
 
 QStringList tst_DialogPages::Run::values(const QString& call, const QStringList& fields) const
 {

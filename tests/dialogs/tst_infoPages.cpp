@@ -5,6 +5,7 @@
 #include "host/HST_InfoDefaults.h"
 #include "host/HST_MainWindow.h"
 #include "host/HST_Recorder.h"
+#include "tests/HostRecord.h"
 
 #include <QFontMetrics>
 #include <QImage>
@@ -16,23 +17,7 @@
 
 namespace {
 
-QJsonObject step(const QString& kind, const QJsonValue& value, const QString& window = QString())
-{
-    QJsonObject object { { kind, value } };
-    if (!window.isEmpty())
-        object.insert(QStringLiteral("window"), window);
-    return object;
-}
-
-QJsonObject js(const QString& code)
-{
-    return step(QStringLiteral("js"), code);
-}
-
-QJsonObject menu(const QString& path)
-{
-    return step(QStringLiteral("menu"), path);
-}
+using namespace hoststeps;
 
 // The keys written, in order, from the event after the one whose js code contains marker.
 QStringList writtenAfter(const QList<QJsonObject>& events, const QString& marker)
@@ -81,38 +66,13 @@ private slots:
     void timeCode();
 
 private:
-    struct Run
-    {
-        int code = -1;
-        QString error;
-        QList<QJsonObject> events;
-        QList<QJsonObject> of(const QString& call) const;
-        QStringList jsResults() const;
-    };
+    using Run = HostRecord;
     Run run(const QByteArray& scenario, const QJsonArray& steps, const QString& open = QString(),
         QRect* imageArea = nullptr);
     QVariant pref(const QString& key) const;
 
     QTemporaryDir m_dir;
 };
-
-QList<QJsonObject> tst_InfoPages::Run::of(const QString& call) const
-{
-    QList<QJsonObject> found;
-    for (const QJsonObject& event : events) {
-        if (event.value(QStringLiteral("call")).toString() == call)
-            found.append(event);
-    }
-    return found;
-}
-
-QStringList tst_InfoPages::Run::jsResults() const
-{
-    QStringList results;
-    for (const QJsonObject& event : of(QStringLiteral("js")))
-        results << event.value(QStringLiteral("result")).toVariant().toString();
-    return results;
-}
 
 void tst_InfoPages::init()
 {

@@ -3,6 +3,7 @@
 // file, the preferences dialog, and the script steps that drive them.
 #include "host/HST_Application.h"
 #include "host/HST_Recorder.h"
+#include "tests/HostRecord.h"
 
 #include <KZip>
 
@@ -15,18 +16,7 @@
 
 namespace {
 
-QJsonObject step(const QString& kind, const QJsonValue& value, const QString& window = QString())
-{
-    QJsonObject object { { kind, value } };
-    if (!window.isEmpty())
-        object.insert(QStringLiteral("window"), window);
-    return object;
-}
-
-QJsonObject click(const QString& button)
-{
-    return step(QStringLiteral("click"), button);
-}
+using namespace hoststeps;
 
 // A call of the host status page's mediator, as the page makes it.
 QJsonObject onStatusPage(const QString& code)
@@ -55,28 +45,12 @@ private slots:
     void worldStepChangesStatus();
 
 private:
-    struct Run
-    {
-        int code = -1;
-        QString error;
-        QList<QJsonObject> events;
-        QList<QJsonObject> of(const QString& call) const;
-    };
+    using Run = HostRecord;
     Run run(const QByteArray& scenario, const QJsonArray& steps, const QString& open = QString());
 
     // One folder for the whole test, named in the data rows; each case starts it empty.
     QTemporaryDir m_dir;
 };
-
-QList<QJsonObject> tst_Harness::Run::of(const QString& call) const
-{
-    QList<QJsonObject> found;
-    for (const QJsonObject& event : events) {
-        if (event.value(QStringLiteral("call")).toString() == call)
-            found.append(event);
-    }
-    return found;
-}
 
 void tst_Harness::init()
 {

@@ -95,9 +95,8 @@ void runAll(QList<Run*> runs, const QTemporaryDir& dir)
         if (!run->process->waitForFinished(120000))
             run->process->kill();
         run->process->waitForFinished();
-        run->exitCode = run->process->exitStatus() == QProcess::NormalExit
-            ? run->process->exitCode()
-            : -1;
+        run->exitCode
+            = run->process->exitStatus() == QProcess::NormalExit ? run->process->exitCode() : -1;
         QFile record(run->recordPath);
         if (record.open(QIODevice::ReadOnly)) {
             for (const QByteArray& line : record.readAll().split('\n')) {
@@ -147,7 +146,8 @@ QString problemsOf(const Run& run, const QString& operation)
         else if (call == QLatin1String("log") && text.contains(FaultText)
             && !text.startsWith(QLatin1String("\"APP_Exception:")))
             ++told;
-        else if (call == QLatin1String("message") && text == QLatin1String("Synchronization failed."))
+        else if (call == QLatin1String("message")
+            && text == QLatin1String("Synchronization failed."))
             ++told;
     }
     if (told < thrown)
@@ -204,7 +204,8 @@ void tst_HostFaults::initTestCase()
         QFile file(QStringLiteral(SYNC_SOURCE_DIR "/tests/host/faults/flow.json"));
         file.open(QIODevice::ReadOnly);
         return file.readAll();
-    }()).array();
+    }())
+                                .array();
     QVERIFY(!flow.isEmpty());
     for (int generator = 0; generator < 2; ++generator) {
         m_clean[generator].scenario = world(generator);
@@ -251,7 +252,28 @@ void tst_HostFaults::everyOperation_data()
 void tst_HostFaults::everyOperation()
 {
     QFETCH(QString, operation);
-    QCOMPARE(problemsOf(m_faulty.at(operation), operation), QString());
+    const Run& run = m_faulty.at(operation);
+    // Hubs answer on their own time: under load a flow may reach a hub's dialog before the hub
+    // has an address, and not call from the listed step on what the clean run called there.
+    // Nothing was tested then.
+    if (eventsOf(run, QStringLiteral("fault")).isEmpty() && run.exitCode == 0) {
+        const QJsonArray listed = run.scenario.value(QStringLiteral("faults"))
+                                      .toObject()
+                                      .value(operation)
+                                      .toObject()
+                                      .value(QStringLiteral("steps"))
+                                      .toArray();
+        const int first = listed.isEmpty() ? 0 : listed.first().toInt();
+        bool called = false;
+        for (const QJsonObject& event : eventsOf(run, QStringLiteral("hostCall"))) {
+            called = called
+                || (event.value(QStringLiteral("operation")).toString() == operation
+                    && event.value(QStringLiteral("step")).toInt() >= first);
+        }
+        if (!called)
+            QSKIP("this run's timing took a path that doesn't call the operation");
+    }
+    QCOMPARE(problemsOf(run, operation), QString());
 }
 
 void tst_HostFaults::lastResorts_data()
@@ -276,18 +298,21 @@ void tst_HostFaults::lastResorts()
     Run run;
     run.scenario = world(false);
     run.scenario.insert(QStringLiteral("faults"), faults);
-    run.script = QJsonArray { QJsonObject { { QStringLiteral("open"), QStringLiteral("synccontrol") } },
-        QJsonObject { { QStringLiteral("set"), QJsonArray { QStringLiteral("NRack_comboBox"), 1 } } },
-        QJsonObject { { QStringLiteral("click"), QStringLiteral("Sync execute") } },
-        QJsonObject { { QStringLiteral("click"), QStringLiteral("Sync quit") } } };
+    run.script
+        = QJsonArray { QJsonObject { { QStringLiteral("open"), QStringLiteral("synccontrol") } },
+              QJsonObject {
+                  { QStringLiteral("set"), QJsonArray { QStringLiteral("NRack_comboBox"), 1 } } },
+              QJsonObject { { QStringLiteral("click"), QStringLiteral("Sync execute") } },
+              QJsonObject { { QStringLiteral("click"), QStringLiteral("Sync quit") } } };
     runAll({ &run }, m_dir);
     QCOMPARE(run.exitCode, 0);
     QVERIFY(eventsOf(run, QStringLiteral("leak")).isEmpty());
     bool found = false;
     for (const QJsonObject& event : eventsOf(run, QStringLiteral("log")))
         found |= event.value(QStringLiteral("text")).toString().contains(logged)
-            && !event.value(QStringLiteral("text")).toString().startsWith(
-                QLatin1String("\"APP_Exception:"));
+            && !event.value(QStringLiteral("text"))
+                    .toString()
+                    .startsWith(QLatin1String("\"APP_Exception:"));
     QVERIFY2(found, qPrintable(logged));
 }
 

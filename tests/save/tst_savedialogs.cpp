@@ -3,6 +3,7 @@
 // the refusals, Cancel; the number dialog, the conversion settings and the open dialog.
 #include "host/HST_Application.h"
 #include "host/HST_Recorder.h"
+#include "tests/HostRecord.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -17,20 +18,7 @@
 
 namespace {
 
-QJsonObject step(const QString& kind, const QJsonValue& value)
-{
-    return QJsonObject { { kind, value } };
-}
-
-QJsonObject js(const QString& code)
-{
-    return step(QStringLiteral("js"), code);
-}
-
-QJsonObject click(const QString& button)
-{
-    return step(QStringLiteral("click"), button);
-}
+using namespace hoststeps;
 
 // Two cameras, the first with two recorded partitions and an empty one; the naming of the
 // example scenario: group "trial" numbered, a sub directory named as the file, the partition's
@@ -89,13 +77,7 @@ private slots:
     void subDialogs();
 
 private:
-    struct Run
-    {
-        int code = -1;
-        QList<QJsonObject> events;
-        QList<QJsonObject> of(const QString& call) const;
-        QStringList texts(const QString& call, const QString& field) const;
-    };
+    using Run = HostRecord;
     Run run(const QByteArray& scenario, const QJsonArray& steps, const QString& open);
     // The files under the output directory, relative, each six-digit time as "<t>".
     QStringList written(QSet<QString>* times = nullptr) const;
@@ -104,24 +86,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
     QString m_out;
 };
-
-QList<QJsonObject> tst_SaveDialogs::Run::of(const QString& call) const
-{
-    QList<QJsonObject> found;
-    for (const QJsonObject& event : events) {
-        if (event.value(QStringLiteral("call")).toString() == call)
-            found.append(event);
-    }
-    return found;
-}
-
-QStringList tst_SaveDialogs::Run::texts(const QString& call, const QString& field) const
-{
-    QStringList found;
-    for (const QJsonObject& event : of(call))
-        found << event.value(field).toString();
-    return found;
-}
 
 void tst_SaveDialogs::init()
 {
