@@ -24,6 +24,7 @@ HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
     , m_spec(spec)
     , m_comment(spec.comment)
     , m_customData(spec.customData, context ? context->recorder : nullptr, key)
+    , m_cameraMedia(context, camera)
     , m_currentPartition(spec.partitions.isEmpty() ? 1 : spec.partitions.first().number)
     , m_view(spec.view)
 {
@@ -536,4 +537,13 @@ void HST_Document::reloadLogo()
     record(QStringLiteral("reloadLogo"), {});
     if (m_context && m_context->info)
         m_context->info->reloadLogos();
+}
+
+void HST_Document::setVaultPackDataName(int slot, int dataNo, const QString& name, int)
+{
+    hostCall("document.setVaultPackDataName");
+    m_cameraMedia.setDataName(slot, dataNo, name);
+    record(QStringLiteral("setVaultPackDataName"),
+        { { QStringLiteral("slot"), slot }, { QStringLiteral("dataNo"), dataNo },
+            { QStringLiteral("name"), name } });
 }

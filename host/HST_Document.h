@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/HST_CameraMedia.h"
 #include "host/HST_CustomData.h"
 #include "host/HST_Scenario.h"
 #include "plugin/DOC_Interface.h"
@@ -36,6 +37,8 @@ struct HST_DocumentContext
     std::function<void(int key)> closeDocument;
     // Draws previews with the information block and reloads logos.
     HST_InfoHost* info = nullptr;
+    // A camera formats one of its slots: what is open of it closes, and the format is recorded.
+    std::function<void(HST_MediaKind kind, int camera, int index)> formatSlot;
 };
 
 // A document of the reference host: one document of a simulated camera, or a file without one.
@@ -202,125 +205,151 @@ public:
     bool isSdManaged() override
     {
         hostCall("document.isSdManaged");
-        return false;
+        return m_cameraMedia.managed(HST_MediaKind::Sd);
     }
     bool isVaultPackManaged() override
     {
         hostCall("document.isVaultPackManaged");
-        return false;
+        return m_cameraMedia.managed(HST_MediaKind::StorageUnit);
     }
     bool isCFastManaged() override
     {
         hostCall("document.isCFastManaged");
-        return false;
+        return m_cameraMedia.managed(HST_MediaKind::CFast);
     }
-    bool isSdSlotEnabled(int) override
+    bool isSdSlotEnabled(int index) override
     {
         hostCall("document.isSdSlotEnabled");
-        return false;
+        return m_cameraMedia.slotEnabled(HST_MediaKind::Sd, index);
     }
-    void sdCardInfo(int, int& speedMode, int& speedClass, int& megabytes) override
+    void sdCardInfo(int index, int& speedMode, int& speedClass, int& megabytes) override
     {
         hostCall("document.sdCardInfo");
-        speedMode = speedClass = megabytes = 0;
+        m_cameraMedia.sdCardInfo(index, speedMode, speedClass, megabytes);
     }
-    void sdSlotStatus(int, int& inserted, int& isProtected, int& formatted) override
+    void sdSlotStatus(int index, int& inserted, int& isProtected, int& formatted) override
     {
         hostCall("document.sdSlotStatus");
-        inserted = isProtected = formatted = 0;
+        m_cameraMedia.status(HST_MediaKind::Sd, index, inserted, isProtected, formatted);
     }
-    void sdDataFrames(int, int, int& frames) override
+    void sdDataFrames(int index, int number, int& frames) override
     {
         hostCall("document.sdDataFrames");
-        frames = 0;
+        frames = m_cameraMedia.frames(HST_MediaKind::Sd, index, number);
     }
-    void sdDataDateTime(int, int, int& date, int& time) override
+    void sdDataDateTime(int index, int number, int& date, int& time) override
     {
         hostCall("document.sdDataDateTime");
-        date = time = 0;
+        m_cameraMedia.dateTime(HST_MediaKind::Sd, index, number, date, time);
     }
-    void formatSdSlot(int) override { hostCall("document.formatSdSlot"); }
-    void finishSdFormat(int) override { hostCall("document.finishSdFormat"); }
-    bool isVaultPackSlotEnabled(int) override
+    // The first step of a format empties the medium and is recorded as formatMedia.
+    void formatSdSlot(int index) override
+    {
+        hostCall("document.formatSdSlot");
+        m_cameraMedia.format(HST_MediaKind::Sd, index);
+    }
+    void finishSdFormat(int index) override
+    {
+        hostCall("document.finishSdFormat");
+        m_cameraMedia.finishFormat(HST_MediaKind::Sd, index);
+    }
+    bool isVaultPackSlotEnabled(int slot) override
     {
         hostCall("document.isVaultPackSlotEnabled");
-        return false;
+        return m_cameraMedia.slotEnabled(HST_MediaKind::StorageUnit, slot);
     }
     bool canConvertVaultPackDataName(int = 0) override
     {
         hostCall("document.canConvertVaultPackDataName");
-        return m_spec.media.kind == HST_MediaKind::StorageUnit;
+        // A recording on the unit, or a camera that names the data on its own unit.
+        return m_spec.media.kind == HST_MediaKind::StorageUnit
+            || m_cameraMedia.managed(HST_MediaKind::StorageUnit);
     }
-    void vaultPackSpace(int, int& total, int& freeMegabytes) override
+    void vaultPackSpace(int slot, int& total, int& freeMegabytes) override
     {
         hostCall("document.vaultPackSpace");
-        total = freeMegabytes = 0;
+        m_cameraMedia.vaultPackSpace(slot, total, freeMegabytes);
     }
-    void vaultPackSlotStatus(int, int& connected, int& formatted) override
+    void vaultPackSlotStatus(int slot, int& connected, int& formatted) override
     {
         hostCall("document.vaultPackSlotStatus");
-        connected = formatted = 0;
+        int unused = 0;
+        m_cameraMedia.status(HST_MediaKind::StorageUnit, slot, connected, unused, formatted);
     }
-    void setVaultPackDataName(int, int, const QString&, int = 0) override
-    {
-        hostCall("document.setVaultPackDataName");
-    }
-    QString& vaultPackDataName(QString& out, int, int) override
+    // Recorded.
+    void setVaultPackDataName(int slot, int dataNo, const QString& name, int = 0) override;
+    QString& vaultPackDataName(QString& out, int slot, int number) override
     {
         hostCall("document.vaultPackDataName");
-        out.clear();
-        return out;
+        return out = m_cameraMedia.dataName(slot, number);
     }
-    void vaultPackDataFrames(int, int, int& frames) override
+    void vaultPackDataFrames(int slot, int number, int& frames) override
     {
         hostCall("document.vaultPackDataFrames");
-        frames = 0;
+        frames = m_cameraMedia.frames(HST_MediaKind::StorageUnit, slot, number);
     }
-    void vaultPackDataDateTime(int, int, int& date, int& time) override
+    void vaultPackDataDateTime(int slot, int number, int& date, int& time) override
     {
         hostCall("document.vaultPackDataDateTime");
-        date = time = 0;
+        m_cameraMedia.dateTime(HST_MediaKind::StorageUnit, slot, number, date, time);
     }
-    void formatVaultPackSlot(int) override { hostCall("document.formatVaultPackSlot"); }
-    void finishVaultPackFormat(int) override { hostCall("document.finishVaultPackFormat"); }
-    quint64 vaultPackDataLimit(int) override
+    void formatVaultPackSlot(int slot) override
+    {
+        hostCall("document.formatVaultPackSlot");
+        m_cameraMedia.format(HST_MediaKind::StorageUnit, slot);
+    }
+    void finishVaultPackFormat(int slot) override
+    {
+        hostCall("document.finishVaultPackFormat");
+        m_cameraMedia.finishFormat(HST_MediaKind::StorageUnit, slot);
+    }
+    quint64 vaultPackDataLimit(int slot) override
     {
         hostCall("document.vaultPackDataLimit");
-        return 0;
+        return m_cameraMedia.dataLimit(slot);
     }
     int vaultPackSlotNo() override
     {
         hostCall("document.vaultPackSlotNo");
-        return 0;
+        return m_cameraMedia.vaultPackSlotNo();
     }
-    bool isCFastSlotEnabled(int) override
+    bool isCFastSlotEnabled(int slot) override
     {
         hostCall("document.isCFastSlotEnabled");
-        return false;
+        return m_cameraMedia.slotEnabled(HST_MediaKind::CFast, slot);
     }
-    void cfastSpace(int, quint64& total, quint64& freeBytes, int& dataCount) override
+    void cfastSpace(int slot, quint64& total, quint64& freeBytes, int& dataCount) override
     {
         hostCall("document.cfastSpace");
-        total = freeBytes = 0;
-        dataCount = 0;
+        m_cameraMedia.cfastSpace(slot, total, freeBytes, dataCount);
     }
-    void cfastSlotStatus(int, int& inserted, int& formatted) override
+    void cfastSlotStatus(int slot, int& inserted, int& formatted) override
     {
         hostCall("document.cfastSlotStatus");
-        inserted = formatted = 0;
+        int unused = 0;
+        m_cameraMedia.status(HST_MediaKind::CFast, slot, inserted, unused, formatted);
     }
-    void cfastDataFrames(int, int, int& frames) override
+    // The camera numbers a card's data sets from 1.
+    void cfastDataFrames(int slot, int number, int& frames) override
     {
         hostCall("document.cfastDataFrames");
-        frames = 0;
+        frames = m_cameraMedia.frames(HST_MediaKind::CFast, slot, number - 1);
     }
-    void cfastDataDateTime(int, int, int& date, int& time) override
+    void cfastDataDateTime(int slot, int number, int& date, int& time) override
     {
         hostCall("document.cfastDataDateTime");
-        date = time = 0;
+        m_cameraMedia.dateTime(HST_MediaKind::CFast, slot, number - 1, date, time);
     }
-    void formatCFastSlot(int) override { hostCall("document.formatCFastSlot"); }
-    void finishCFastFormat(int) override { hostCall("document.finishCFastFormat"); }
+    void formatCFastSlot(int slot) override
+    {
+        hostCall("document.formatCFastSlot");
+        m_cameraMedia.format(HST_MediaKind::CFast, slot);
+    }
+    void finishCFastFormat(int slot) override
+    {
+        hostCall("document.finishCFastFormat");
+        m_cameraMedia.finishFormat(HST_MediaKind::CFast, slot);
+    }
     bool isDummy() override;
     bool hasRecordedData() override;
     void eraseRecordedData(int = 0) override;
@@ -417,6 +446,7 @@ private:
     HST_DocumentSpec m_spec;
     QString m_comment;
     HST_CustomData m_customData;
+    HST_CameraMedia m_cameraMedia;
     bool m_selected = false;
     int m_currentPartition = 1;
     bool m_saveInfo = false;

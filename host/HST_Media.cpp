@@ -6,9 +6,9 @@
 
 namespace {
 
-const quint64 megabyte = 1024 * 1024;
+const quint64 megabyte = quint64(1024) * 1024;
 // What a frame takes on a medium: one byte a pixel of a 640 x 480 frame.
-const quint64 frameBytes = 640 * 480;
+const quint64 frameBytes = quint64(640) * 480;
 
 int letterNumber(const QString& drive)
 {
@@ -93,6 +93,17 @@ HST_Media::Slot& HST_Media::slotOfDrive(HST_MediaKind kind, const QString& drive
     }
     throw APP_Exception(
         QStringLiteral("There is no %1 drive \"%2\".").arg(kindName(kind), drive), 1);
+}
+
+HST_Media::Slot& HST_Media::slotOfDriveNumber(HST_MediaKind kind, int driveNo)
+{
+    for (Slot& slot : m_slots) {
+        if (slot.kind == kind && slot.spec.present && !slot.spec.drive.isEmpty()
+            && letterNumber(slot.spec.drive) == driveNo)
+            return slot;
+    }
+    throw APP_Exception(
+        QStringLiteral("There is no %1 drive %2.").arg(kindName(kind)).arg(driveNo), 1);
 }
 
 HST_Media::Slot* HST_Media::slotOf(HST_MediaKind kind, int camera, int index)

@@ -35,6 +35,8 @@ public:
     // Throw APP_Exception for a drive the PC doesn't see.
     Slot& slot(HST_MediaKind kind, int driveNo, int slotNo);
     Slot& slotOfDrive(HST_MediaKind kind, const QString& drive);
+    // The drive by its number alone: a letter is one slot's.
+    Slot& slotOfDriveNumber(HST_MediaKind kind, int driveNo);
     // Null for a camera index or slot out of range.
     Slot* slotOf(HST_MediaKind kind, int camera, int index);
 

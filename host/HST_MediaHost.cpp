@@ -28,11 +28,16 @@ HST_MediaHost::HST_MediaHost(HST_Recorder* recorder)
 {
     documentContext().media = m_media.get();
     documentContext().closeDocument = [this](int key) { closeDocument(key); };
+    documentContext().formatSlot = [this](HST_MediaKind kind, int camera, int index) {
+        if (HST_Media::Slot* slot = m_media->slotOf(kind, camera, index))
+            format(*slot);
+    };
 }
 
 HST_MediaHost::~HST_MediaHost()
 {
     documentContext().closeDocument = nullptr;
+    documentContext().formatSlot = nullptr;
 }
 
 void HST_MediaHost::setSaveWorld(const HST_Scenario& scenario)
@@ -166,7 +171,9 @@ void HST_MediaHost::format(HST_Media::Slot& slot)
     HST_Media::format(slot);
     m_mediaRecorder->record(QStringLiteral("formatMedia"),
         { { QStringLiteral("kind"), HST_Media::kindName(slot.kind) },
-            { QStringLiteral("drive"), slot.spec.drive } });
+            { QStringLiteral("drive"), slot.spec.drive }, { QStringLiteral("camera"), slot.camera },
+            { QStringLiteral("slot"), slot.index } });
+    hostStateChanged();
 }
 
 void HST_MediaHost::formatStorageUnit(int, int driveNo, int slotNo)
@@ -203,7 +210,46 @@ quint64 HST_MediaHost::totalWrittenAmount(int, int driveNo, int slotNo)
     return m_media->slot(HST_MediaKind::StorageUnit, driveNo, slotNo).spec.writtenGigabytes;
 }
 
+bool HST_MediaHost::hasStorageUnitPassword(int, int driveNo)
+{
+    hostCall("hasStorageUnitPassword");
+    return !m_media->slotOfDriveNumber(HST_MediaKind::StorageUnit, driveNo).spec.password.isEmpty();
+}
+
+bool HST_MediaHost::setStorageUnitPassword(
+    int, int driveNo, const QString& oldPassword, const QString& newPassword)
+{
+    hostCall("setStorageUnitPassword");
+    HST_Media::Slot& slot = m_media->slotOfDriveNumber(HST_MediaKind::StorageUnit, driveNo);
+    // What the unit holds: 8 bytes of the local encoding.
+    const bool done = oldPassword == slot.spec.password && newPassword.toLocal8Bit().size() <= 8;
+    if (done) {
+        slot.spec.password = newPassword;
+        slot.unlocked = newPassword.isEmpty();
+    }
+    m_mediaRecorder->record(QStringLiteral("setStorageUnitPassword"),
+        { { QStringLiteral("drive"), slot.spec.drive }, { QStringLiteral("result"), done },
+            { QStringLiteral("locked"), !slot.spec.password.isEmpty() } });
+    return done;
+}
+
 // APP_DocumentList
+
+void HST_MediaHost::prepareVaultPackFormat(int device)
+{
+    hostCall("prepareVaultPackFormat");
+    m_mediaRecorder->record(QStringLiteral("prepareFormat"),
+        { { QStringLiteral("kind"), HST_Media::kindName(HST_MediaKind::StorageUnit) },
+            { QStringLiteral("device"), device } });
+}
+
+void HST_MediaHost::prepareCFastFormat(int device)
+{
+    hostCall("prepareCFastFormat");
+    m_mediaRecorder->record(QStringLiteral("prepareFormat"),
+        { { QStringLiteral("kind"), HST_Media::kindName(HST_MediaKind::CFast) },
+            { QStringLiteral("device"), device } });
+}
 
 QList<int> HST_MediaHost::deviceKeys()
 {

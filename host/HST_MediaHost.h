@@ -40,9 +40,16 @@ public:
         int type, int driveNo, int slotNo, quint64& used, quint64& capacity) override;
     void cfastUsage(int type, int driveNo, int slotNo, quint64& used, quint64& capacity) override;
     quint64 totalWrittenAmount(int type, int driveNo, int slotNo) override;
+    bool hasStorageUnitPassword(int type, int driveNo) override;
+    // Refuses a wrong old password and a new one the unit can't hold; a new one set is asked
+    // for at the next opening. Recorded without either password.
+    bool setStorageUnitPassword(
+        int type, int driveNo, const QString& oldPassword, const QString& newPassword) override;
 
     // APP_DocumentList
     QList<int> deviceKeys() override;
+    void prepareVaultPackFormat(int device) override;
+    void prepareCFastFormat(int device) override;
     void openFiles(const QStringList& paths) override;
     void importDocuments(const QList<int>& keys) override;
 

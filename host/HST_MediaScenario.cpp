@@ -29,8 +29,8 @@ QJsonObject objectAt(const QJsonValue& value, const QString& path, const QString
 {
     if (!value.isObject())
         refuse(path, QStringLiteral("expected an object"));
-    const QJsonObject object = value.toObject();
-    for (auto it = object.begin(); it != object.end(); ++it) {
+    QJsonObject object = value.toObject();
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         if (!keys.contains(it.key()))
             refuse(join(path, it.key()), QStringLiteral("unknown key"));
     }
@@ -113,7 +113,7 @@ HST_MediaSlotSpec readSlot(const QJsonValue& value, const QString& path, bool st
     QStringList keys { "present", "formatted", "capacity", "used", "written", "drive", "driveType",
         "recordings" };
     if (storageUnit)
-        keys << QStringLiteral("password");
+        keys << QStringLiteral("password") << QStringLiteral("dataLimit");
     else
         keys << QStringLiteral("protected") << QStringLiteral("speedMode")
              << QStringLiteral("speedClass");
@@ -132,6 +132,7 @@ HST_MediaSlotSpec readSlot(const QJsonValue& value, const QString& path, bool st
         refuse(join(path, QStringLiteral("used")), QStringLiteral("more than the capacity"));
     slot.writtenGigabytes = quint64(numberAt(object, path, QStringLiteral("written"), 0, 1e9));
     slot.password = stringAt(object, path, QStringLiteral("password"), QString());
+    slot.dataLimit = quint64(numberAt(object, path, QStringLiteral("dataLimit"), 1024, 1e6));
     slot.drive = stringAt(object, path, QStringLiteral("drive"), QString()).toUpper();
     if (!slot.drive.isEmpty()
         && !QRegularExpression(QStringLiteral("^[A-Z]:$")).match(slot.drive).hasMatch())

@@ -29,6 +29,8 @@ struct HST_MediaSlotSpec
     quint64 writtenGigabytes = 0;
     // The storage unit only; empty: none.
     QString password;
+    // The storage unit only: how many data sets the camera numbers with function 163.
+    quint64 dataLimit = 1024;
     // "E:" and so on; empty: the PC doesn't see the slot.
     QString drive;
     int driveType = 0;

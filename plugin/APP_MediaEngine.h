@@ -42,4 +42,10 @@ public:
         = 0;
     // Gigabytes ever written to the medium.
     virtual quint64 totalWrittenAmount(int type, int driveNo, int slotNo) = 0;
+    // The storage unit of a drive is locked by a password.
+    virtual bool hasStorageUnitPassword(int type, int driveNo) = 0;
+    // False when the old password is wrong; an empty new one takes the lock off.
+    virtual bool setStorageUnitPassword(
+        int type, int driveNo, const QString& oldPassword, const QString& newPassword)
+        = 0;
 };

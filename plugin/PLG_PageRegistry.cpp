@@ -13,6 +13,7 @@
 #include "plugin/PLG_DeviceInfoPages.h"
 #include "plugin/SharedKeys.h"
 #include "save/FileDialogKind.h"
+#include "save/MediaPages.h"
 #include "save/SavePages.h"
 #include "util/ScopeExit.h"
 #include "web/JS_Mediator_Page.h"
@@ -148,6 +149,16 @@ const PLG_PageEntry pageTable[] = {
         nullptr, nullptr },
     { "rectime_format_dialog", PLG_PageKind::Dialog, "Recording time disp",
         &openFormat<GUI_RectimeFormatDialog>, nullptr, nullptr },
+    // Removable media panels and the storage unit's passwords.
+    { "savesd", PLG_PageKind::Page, "SD cards", nullptr, nullptr, &MediaPages::makeSdMediator },
+    { "savevaultpack", PLG_PageKind::Page, "VaultPack", nullptr, nullptr,
+        &MediaPages::makeVaultPackMediator },
+    { "savecfast", PLG_PageKind::Page, "CFast cards", nullptr, nullptr,
+        &MediaPages::makeCFastMediator },
+    { "input_password_dialog", PLG_PageKind::Dialog, "Input password",
+        &MediaPages::openInputPasswordDialog, nullptr, nullptr },
+    { "change_password_dialog", PLG_PageKind::Dialog, "Change Password",
+        &MediaPages::openChangePasswordDialog, nullptr, nullptr },
 };
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "save/FileDialogDrives.h"
 
+#include "dialogs/GUI_ChangePasswordDialog.h"
+#include "dialogs/GUI_InputPasswordDialog.h"
 #include "plugin/APP_Host.h"
 #include "util/APP_Exception.h"
 #include "util/UTL_Exception.h"
@@ -13,6 +15,9 @@
 #include <QVariantMap>
 
 namespace {
+
+// What the storage unit takes, in bytes of the local encoding.
+const quint32 passwordBytes = 8;
 
 QString compact(const QJsonObject& object)
 {
@@ -123,11 +128,47 @@ void FileDialogDrives::selectStorageUnit(
         m_host->setMediaKind(7);
     try {
         m_host->openStorageUnit(type, driveNo, slotNo, driveName);
+        return;
     } catch (const APP_Exception& e) {
         if (e.errorCode() != 407)
             throw;
-        throw APP_Exception(QStringLiteral("The dialog is not available."), 0);
     }
+    for (;;) {
+        QString password;
+        GUI_InputPasswordDialog dialog(m_host, QString(), passwordBytes, m_host->getMainWindow());
+        if (!dialog.inputPassword(password))
+            return;
+        if (m_host->unlockStorageUnit(type, driveNo, slotNo, password))
+            break;
+        m_host->showWarning(
+            UTL_Messages::translate(m_host, QStringLiteral("Invalid Password.")), nullptr);
+    }
+    m_host->openStorageUnit(type, driveNo, slotNo, driveName);
+}
+
+void FileDialogDrives::setStorageUnitPassword(int type, int driveNo)
+{
+    QString oldPassword;
+    QString newPassword;
+    GUI_ChangePasswordDialog dialog(
+        m_host, QString(), QString(), passwordBytes, m_host->getMainWindow());
+    if (!dialog.changePassword(oldPassword, newPassword))
+        return;
+    bool done = false;
+    try {
+        done = m_host->setStorageUnitPassword(type, driveNo, oldPassword, newPassword);
+    } catch (const std::exception& e) {
+        // The host's text, which names the drive and never the password.
+        qCritical().noquote() << QStringLiteral("FileDialogDrives::setStorageUnitPassword")
+                              << QString::fromUtf8(e.what());
+    }
+    if (done)
+        m_host->showInformation(
+            UTL_Messages::translate(m_host, QStringLiteral("Password setting completed..")),
+            nullptr);
+    else
+        m_host->showError(
+            UTL_Messages::translate(m_host, QStringLiteral("Password setting failed.")), nullptr);
 }
 
 template <typename Format, typename Reopen>

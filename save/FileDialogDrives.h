@@ -25,8 +25,10 @@ public:
 
     // Opens the SD drive of a row, after asking to close another one that is open.
     void selectSdDrive(int recid);
-    // A unit that a password locks throws: asking for it is the password dialog's.
+    // A unit that a password locks asks for it until it is right or the user gives up.
     void selectStorageUnit(int type, int driveNo, int slotNo, const QString& driveName);
+    // Asks for the old and the new password and tells the user how it went.
+    void setStorageUnitPassword(int type, int driveNo);
     // Formats and tells the user how it went; a failure is logged, not thrown.
     void formatStorageUnit(int type, int driveNo, int slotNo);
     void formatCFast(int type, int driveNo, int slotNo);

@@ -176,7 +176,7 @@ QString JS_Mediator_FileDialog::list(bool temporary)
     SYNC_TRACE(QStringLiteral("JS_Mediator_FileDialog::list"), parameter("temporary", temporary));
     return UTL_Barrier::reported(m_host, QString(), [&] {
         m_records.setSavedCheck(m_savedCheckDone, m_savedList);
-        const QString rows = m_records.list(temporary);
+        QString rows = m_records.list(temporary);
         emit selectedDocCount(m_records.documentKeys().size());
         return rows;
     });
@@ -433,15 +433,15 @@ void JS_Mediator_FileDialog::setVaultPackPassword(int vpType, int driveNo)
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator_FileDialog::setVaultPackPassword"),
         parameter("vpType", vpType) + parameter("driveNo", driveNo));
-    dialogNotAvailable();
+    UTL_Barrier::reported(m_host, [&] { m_drives.setStorageUnitPassword(vpType, driveNo); });
 }
 
 bool JS_Mediator_FileDialog::existSetVaultPackPassword(int vpType, int driveNo)
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator_FileDialog::existSetVaultPackPassword"),
         parameter("vpType", vpType) + parameter("driveNo", driveNo));
-    dialogNotAvailable();
-    return false;
+    return UTL_Barrier::reported(
+        m_host, false, [&] { return m_host->hasStorageUnitPassword(vpType, driveNo); });
 }
 
 // Drives

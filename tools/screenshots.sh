@@ -85,4 +85,10 @@ printf '[{"press": "roi"}, {"wait": 500}, {"mouse": {"document": 1, "press": [10
   {"wait": 300}, {"screenshot": "%s"}]' "$out/roi-rectangle.png" > "$roi_prefs.script"
 xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$root/host/scenarios/roi.json" \
     --prefs "$roi_prefs" --script "$roi_prefs.script" --quit > /dev/null
+# Removable media panels and the storage unit's password dialogs.
+shoot_page "$root/host/scenarios/media-panels.json" savesd "$out/media-panel-sd.png" savesd
+shoot_info_dialog "$root/host/scenarios/media-panels.json" change_password_dialog \
+    "$out/change-password-dialog.png"
+shoot_info_dialog "$root/host/scenarios/media-panels.json" input_password_dialog \
+    "$out/input-password-dialog.png"
 ls -1 "$out"

@@ -136,7 +136,9 @@ var filedialogPage = (function () {
         $('#cfUse').text(cf ? files.getCFUseRatio(cf.drivetype, cf.driveno, cf.slotno) + '% '
             + files.translate('used') : '');
         $('#openSd').prop('disabled', !$('#sdDrives option').length);
-        $('#openVp, #formatVp').prop('disabled', !vp);
+        $('#openVp, #formatVp, #passwordVp').prop('disabled', !vp);
+        $('#passwordVp').toggleClass('locked',
+            !!vp && files.existSetVaultPackPassword(vp.drivetype, vp.driveno));
         $('#openCf, #formatCf').prop('disabled', !cf);
     }
 
@@ -210,6 +212,12 @@ var filedialogPage = (function () {
             if (drive)
                 files.selectCFDrive(drive.drivetype, drive.driveno, drive.slotno, drive.drivename);
             refresh();
+        });
+        $('#passwordVp').click(function () {
+            var drive = chosenDrive(vpDrives, $('#vpDrives'));
+            if (drive)
+                files.setVaultPackPassword(drive.drivetype, drive.driveno);
+            refreshUse();
         });
         $('#vpDrives, #cfDrives').change(refreshUse);
         $('#formatVp').click(function () { format(vpDrives, $('#vpDrives'), 'formatVaultPack'); });

@@ -388,10 +388,10 @@ void tst_FileDialog::badInputFromThePage_data()
         << "vpuse:3"
         << ""
         << "There is no storage unit drive 3 with slot 0.";
-    QTest::newRow("a locked storage unit waits for the password dialog")
-        << "vpopen:5"
+    QTest::newRow("opening a storage unit drive that doesn't exist")
+        << "vpopen:3"
         << ""
-        << "The dialog is not available.";
+        << "There is no storage unit drive 3 with slot 0.";
     QTest::newRow("the head of a document that has gone") << "rename:9"
                                                           << ""
                                                           << "The document 9 is no longer open.";
