@@ -10,6 +10,7 @@
 
 struct HST_CameraState;
 class HST_Faults;
+class HST_HeadGroups;
 class HST_Preferences;
 class HST_Recorder;
 
@@ -24,6 +25,10 @@ struct HST_DocumentContext
     HST_Preferences* prefs = nullptr;
     // The devices the host has: deviceCount of every document.
     int deviceCount = 1;
+    // The multi-head devices among the documents.
+    HST_HeadGroups* headGroups = nullptr;
+    // The partition selectPartition made current on the cameras.
+    int currentPartition = 1;
 };
 
 // A document of the reference host: one document of a simulated camera, or a file without one.
@@ -40,6 +45,7 @@ public:
     // The name of a document without a camera.
     QString fileName() const;
     bool isTemporary() const { return m_spec.temporary; }
+    const QList<HST_PartitionSpec>& partitionSpecs() const { return m_spec.partitions; }
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
@@ -54,17 +60,14 @@ public:
     void heads(QList<DOC_Interface*>& out, bool all = true) override;
     int headCount() override;
     bool isConnected() override;
-    void setConnectWanted(bool) override { hostCall("document.setConnectWanted"); }
+    void setConnectWanted(bool wanted) override;
+    bool connectWanted() const { return m_connectWanted; }
     bool isSelected() override
     {
         hostCall("document.isSelected");
         return m_selected;
     }
-    bool isSelectedMulti() override
-    {
-        hostCall("document.isSelectedMulti");
-        return m_selected;
-    }
+    bool isSelectedMulti() override;
     bool holdsCameraMemory() override
     {
         hostCall("document.holdsCameraMemory");
@@ -152,20 +155,12 @@ public:
     int currentPartition(bool = true) override
     {
         hostCall("document.currentPartition");
-        return m_camera ? 1 : 0;
+        return m_camera && m_context ? m_context->currentPartition : m_camera ? 1 : 0;
     }
     void setPartitionDirty(int = 0) override { hostCall("document.setPartitionDirty"); }
-    int partitionCount(int = 0, int = 0) override
-    {
-        hostCall("document.partitionCount");
-        return m_camera ? 1 : 0;
-    }
+    int partitionCount(int = 0, int = 0) override;
     bool isFunctionSupported(int functionId, bool current = true) override;
-    bool hasSiblingHeads() override
-    {
-        hostCall("document.hasSiblingHeads");
-        return false;
-    }
+    bool hasSiblingHeads() override;
     void firmwareVersion(QString& out) override;
     void firmwareVersion2(QString& out) override;
     void firmwareVersion3(QString& out) override;
@@ -376,20 +371,18 @@ public:
     }
 
     // DOC_HeadGroup
-    bool isHeadGroupOwner() override
-    {
-        hostCall("document.isHeadGroupOwner");
-        return false;
-    }
-    bool isHeadOfGroup() override
-    {
-        hostCall("document.isHeadOfGroup");
-        return false;
-    }
-    void selectHead(DOC_Interface*) override { hostCall("document.selectHead"); }
-    void unselectHead(DOC_Interface*) override { hostCall("document.unselectHead"); }
-    void unselectAllHeads() override { hostCall("document.unselectAllHeads"); }
-    void selectAllHeads() override { hostCall("document.selectAllHeads"); }
+    bool isHeadGroupOwner() override;
+    bool isHeadOfGroup() override;
+    void selectHead(DOC_Interface* head) override;
+    void unselectHead(DOC_Interface* head) override;
+    void unselectAllHeads() override;
+    void selectAllHeads() override;
+
+    // DOC_Camera: presets
+    int presetCount() override;
+    QStringList& presetTexts(QStringList& out) override;
+    void writePreset(int preset) override;
+    bool presetNeedsReboot(int preset) override;
 
 private:
     void hostCall(const char* operation) const;
@@ -406,4 +399,5 @@ private:
     QString m_comment;
     HST_CustomData m_customData;
     bool m_selected = false;
+    bool m_connectWanted = false;
 };

@@ -287,7 +287,8 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
                 "exposureTimingClass", "documents", "dummy", "needsErase", "recorded",
                 "syncRequired", "subnetmask", "gateway", "etherType", "headNumber", "headCount",
                 "firmware", "functions", "filePath", "connected", "mobile", "deviceName",
-                "wifiConnected", "linkSpeed", "bitDepth", "realBitDepth", "rostraLocked" });
+                "wifiConnected", "linkSpeed", "bitDepth", "realBitDepth", "rostraLocked" }
+            + HST_CameraSetup::keys());
     HST_CameraSpec camera;
     camera.name = readString(
         object, name, QStringLiteral("name"), QStringLiteral("Camera %1").arg(index + 1));
@@ -335,6 +336,10 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
     camera.realBitDepth
         = readInt(object, name, QStringLiteral("realBitDepth"), camera.bitDepth, 1, 16);
     camera.rostraLocked = readBool(object, name, QStringLiteral("rostraLocked"), false);
+    QString key;
+    QString problem;
+    if (!HST_CameraSetup::read(object, name, camera.setup, key, problem))
+        refuse(key, problem);
     return camera;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/HST_CameraSetup.h"
 #include "host/HST_Fault.h"
 
 #include <QByteArray>
@@ -76,6 +77,8 @@ struct HST_CameraSpec
     int bitDepth = 8;
     int realBitDepth = 8;
     bool rostraLocked = false;
+    // Presets and heads.
+    HST_CameraSetup setup;
 };
 
 // When a hub answers: from the host's start, from the first connectAll, or never.

@@ -4,6 +4,7 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <QVariantList>
 
 // Facet of a document: the camera behind it. A document without a camera still answers.
@@ -39,9 +40,11 @@ public:
     virtual QVariantList& customData(QVariantList& out) = 0;
     virtual void clearCustomData() = 0;
     virtual void addCustomData(const QString& name, const QString& value, const QString& unit,
-                               bool display, bool usefilename) = 0;
+        bool display, bool usefilename)
+        = 0;
     virtual void setCustomData(const QString& name, const QString& value, const QString& unit,
-                               bool display, bool usefilename) = 0;
+        bool display, bool usefilename)
+        = 0;
     virtual void removeCustomData(const QString& name) = 0;
     virtual void renameCustomData(const QString& oldName, const QString& newName) = 0;
     virtual bool isFitMemoryMode() = 0;
@@ -61,7 +64,8 @@ public:
     virtual bool canConvertVaultPackDataName(int reserved = 0) = 0;
     virtual void vaultPackSpace(int slot, int& total, int& freeMegabytes) = 0;
     virtual void vaultPackSlotStatus(int slot, int& connected, int& formatted) = 0;
-    virtual void setVaultPackDataName(int slot, int dataNo, const QString& name, int reserved = 0) = 0;
+    virtual void setVaultPackDataName(int slot, int dataNo, const QString& name, int reserved = 0)
+        = 0;
     virtual QString& vaultPackDataName(QString& out, int slot, int number) = 0;
     virtual void vaultPackDataFrames(int slot, int number, int& frames) = 0;
     virtual void vaultPackDataDateTime(int slot, int number, int& date, int& time) = 0;
@@ -89,4 +93,12 @@ public:
     virtual int dualSlopeShutter() = 0;
     virtual int automaticExposureControl() = 0;
     virtual int lowLightMode() = 0;
+
+    // Preset slots, numbered from 1.
+    virtual int presetCount() = 0;
+    // The texts of the slots, one per slot.
+    virtual QStringList& presetTexts(QStringList& out) = 0;
+    virtual void writePreset(int preset) = 0;
+    // The camera takes that preset only after a reboot.
+    virtual bool presetNeedsReboot(int preset) = 0;
 };
