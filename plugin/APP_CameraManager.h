@@ -17,8 +17,8 @@ public:
     // Blocking; runs on a worker thread while the GUI thread waits in a modal dialog.
     // Throws a std::exception when the sync failed.
     virtual void applySync(QList<DOC_Camera*> cameras, DOC_Camera* master, int distributor,
-        bool external, bool generatorControl, int syncIn, int frequency, int polarity)
-        = 0;
+                           bool external, bool generatorControl, int syncIn, int frequency,
+                           int polarity) = 0;
     virtual bool isSyncRequired() = 0;
     virtual bool isLensCalibration() = 0;
     virtual void selectPartition(int partition, bool update = true) = 0;
@@ -31,10 +31,9 @@ public:
     virtual void selectVariable(int number) = 0;
     virtual bool isDirectSaving(int filter = 1) = 0;
     virtual void editDevice(int key, const QString& cameraName, const QString& ip,
-        const QString& subnetmask, const QString& gateway, bool cameraMode)
-        = 0;
-    virtual void addDevice(const QString& cameraName, const QString& ip, bool isDummy, bool connect)
-        = 0;
+                            const QString& subnetmask, const QString& gateway, bool cameraMode) = 0;
+    virtual void addDevice(const QString& cameraName, const QString& ip, bool isDummy,
+                           bool connect) = 0;
 
     // Camera settings files and presets.
     virtual QList<int> deviceKeys() = 0;

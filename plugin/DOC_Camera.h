@@ -40,11 +40,9 @@ public:
     virtual QVariantList& customData(QVariantList& out) = 0;
     virtual void clearCustomData() = 0;
     virtual void addCustomData(const QString& name, const QString& value, const QString& unit,
-        bool display, bool usefilename)
-        = 0;
+                               bool display, bool usefilename) = 0;
     virtual void setCustomData(const QString& name, const QString& value, const QString& unit,
-        bool display, bool usefilename)
-        = 0;
+                               bool display, bool usefilename) = 0;
     virtual void removeCustomData(const QString& name) = 0;
     virtual void renameCustomData(const QString& oldName, const QString& newName) = 0;
     virtual bool isFitMemoryMode() = 0;
@@ -64,8 +62,7 @@ public:
     virtual bool canConvertVaultPackDataName(int reserved = 0) = 0;
     virtual void vaultPackSpace(int slot, int& total, int& freeMegabytes) = 0;
     virtual void vaultPackSlotStatus(int slot, int& connected, int& formatted) = 0;
-    virtual void setVaultPackDataName(int slot, int dataNo, const QString& name, int reserved = 0)
-        = 0;
+    virtual void setVaultPackDataName(int slot, int dataNo, const QString& name, int reserved = 0) = 0;
     virtual QString& vaultPackDataName(QString& out, int slot, int number) = 0;
     virtual void vaultPackDataFrames(int slot, int number, int& frames) = 0;
     virtual void vaultPackDataDateTime(int slot, int number, int& date, int& time) = 0;
