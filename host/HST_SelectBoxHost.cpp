@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTimer>
 #include <QWidget>
 
 namespace {
@@ -16,6 +17,7 @@ namespace {
 const char page[] = "selectbox";
 // One entry of the box's list, in pixels.
 const int rowHeight = 24;
+const int loadRetryMs = 20;
 
 } // namespace
 
@@ -49,6 +51,13 @@ int HST_SelectBoxHost::show(const QString& what)
     QObject* box = items();
     if (!box)
         return -1;
+    bool loaded = false;
+    QMetaObject::invokeMethod(m_box, "isLoaded", Q_RETURN_ARG(bool, loaded));
+    if (!loaded) {
+        // The page hears the box's signals only once it has loaded.
+        QTimer::singleShot(loadRetryMs, this, [this, what] { show(what); });
+        return 1;
+    }
     int rows = 0;
     if (partition) {
         QVariantList partitions;
