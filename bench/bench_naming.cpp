@@ -95,8 +95,12 @@ int main(int argc, char** argv)
             HST_Scenario scenario;
             HST_CameraSpec camera;
             camera.document.partitions.clear();
-            for (int p = 1; p <= partitions; ++p)
-                camera.document.partitions.append({ p, QStringLiteral("P%1").arg(p), 1000 });
+            for (int p = 1; p <= partitions; ++p) {
+                HST_PartitionSpec partition;
+                partition.number = p;
+                partition.name = QStringLiteral("P%1").arg(p);
+                camera.document.partitions.append(partition);
+            }
             scenario.cameras.append(camera);
             scenario.prefs = { { QStringLiteral("export/dir"), target },
                 { QStringLiteral("export/filename"), QStringLiteral("shot") },

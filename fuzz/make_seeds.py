@@ -147,6 +147,11 @@ def scenario():
                      b' "generator": {"listen": "127.0.0.1", "portmapperPort": 1111, "silentAt": "device_read",'
                      b' "garbage": false, "maxLinks": 2}}',
         "refused.json": b'{"cameras": [{"ip": "1.2.3.4"}, {"ip": "1.2.3.4"}], "mode": 2.5}',
+        "media.json": b'{"mode": 2, "loopSave": {"mode": true, "active": false}, "writer": {"formats": ["PNG"]},'
+                      b' "cameras": [{"media": {"sd": [{"drive": "E:", "protected": true, "recordings": [{"name": "a",'
+                      b' "frames": 5, "date": "2024/1/2", "time": "03:04:05"}]}], "storageUnit": [{"drive": "F:",'
+                      b' "password": "p", "capacity": 10, "used": 5, "written": 3}], "cfast": [{"present": false}]},'
+                      b' "partitions": [{"width": 8, "height": 6, "capacity": 1, "rate": 250}], "multiSkipA": true}]}',
         "status.json": b'{"status": {"IsRecording": true, "IsNotUndo": false, "IsFullScreen": true},'
                        b' "recordingStatus": 4, "exportSupportFile": {"result": "error"},'
                        b' "cameras": [{"connected": false, "functions": [176, 117], "bitDepth": 12,'
@@ -188,6 +193,20 @@ def camera_names():
         write("fuzz_camera_names", name, data)
 
 
+def save_lists():
+    seeds = {
+        "paths": b"\0main|/data/main?backup|/mnt/b??bad|three|parts?|only",
+        "devices": b"\1main|/data/main?backup|/mnt/b\0" b"10.0.0.1|backup?10.0.0.2|gone\0"
+                   b"10.0.0.1\0" b"10.0.0.2\0" b"10.0.0.1\0" b"10.0.0.3",
+        "devices-no-paths": b"\1\0" b"10.0.0.1|x\0" b"10.0.0.1",
+        "display": b"\2Camera name:true,File name:false,File name:true",
+        "display-odd": b"\2File name,File name:,:true,File name:TRUE",
+        "info": b"\3document=Left\nserialno=100000\ndatano=2\n=x\nno equals\nserialno=again\n",
+    }
+    for name, data in seeds.items():
+        write("fuzz_save_lists", name, data)
+
+
 if __name__ == "__main__":
     visa_reply()
     visa_session()
@@ -196,3 +215,4 @@ if __name__ == "__main__":
     scenario()
     custom_info()
     camera_names()
+    save_lists()

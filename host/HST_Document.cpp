@@ -1,11 +1,17 @@
 #include "host/HST_Document.h"
 
 #include "host/HST_CameraState.h"
+#include "host/HST_DocumentDescription.h"
 #include "host/HST_Faults.h"
+#include "host/HST_Media.h"
 #include "host/HST_NumberOption.h"
+#include "host/HST_Preview.h"
 #include "host/HST_Recorder.h"
 
 #include <QDate>
+#include <QFile>
+#include <QFileInfo>
+#include <QPixmap>
 #include <QVariantMap>
 
 HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
@@ -17,6 +23,7 @@ HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
     , m_spec(spec)
     , m_comment(spec.comment)
     , m_customData(spec.customData, context ? context->recorder : nullptr, key)
+    , m_currentPartition(spec.partitions.isEmpty() ? 1 : spec.partitions.first().number)
 {
 }
 
@@ -394,4 +401,135 @@ QString& HST_Document::numberOptionText(
     out = HST_NumberOption::text(
         m_context ? m_context->prefs : nullptr, mode, partition, session, document, usesSession);
     return out;
+}
+
+// What a save takes of a document.
+
+int HST_Document::rateOf(int partition) const
+{
+    const HST_PartitionSpec* spec = partitionSpec(partition);
+    if (spec && spec->rate >= 0)
+        return spec->rate;
+    return m_camera ? 1000 : 0;
+}
+
+void HST_Document::selectPartition(int partition)
+{
+    hostCall("document.selectPartition");
+    if (partition == m_currentPartition || !partitionSpec(partition))
+        return;
+    m_currentPartition = partition;
+    record(QStringLiteral("selectPartition"), { { QStringLiteral("partition"), partition } });
+}
+
+QVariantMap HST_Document::documentDescription(bool convert)
+{
+    hostCall("document.documentDescription");
+    return HST_DocumentDescription::of(*this, convert);
+}
+
+QPixmap HST_Document::previewPixmap(
+    int, int width, int height, int partition, int, const QDateTime&)
+{
+    hostCall("document.previewPixmap");
+    const HST_PartitionSpec* spec = partitionSpec(partition);
+    return spec ? HST_Preview::preview(m_key, title(), *spec, width, height) : QPixmap();
+}
+
+bool HST_Document::isMultiSkipA()
+{
+    hostCall("document.isMultiSkipA");
+    return m_spec.multiSkipA;
+}
+
+bool HST_Document::isMultiSkipB()
+{
+    hostCall("document.isMultiSkipB");
+    return m_spec.multiSkipB;
+}
+
+bool HST_Document::isOnSd()
+{
+    hostCall("document.isOnSd");
+    return m_spec.media.kind == HST_MediaKind::Sd;
+}
+
+bool HST_Document::isOnStorageUnit()
+{
+    hostCall("document.isOnStorageUnit");
+    return m_spec.media.kind == HST_MediaKind::StorageUnit;
+}
+
+bool HST_Document::isOnCFast()
+{
+    hostCall("document.isOnCFast");
+    return m_spec.media.kind == HST_MediaKind::CFast;
+}
+
+bool HST_Document::canDeleteFile()
+{
+    hostCall("document.canDeleteFile");
+    return m_spec.media.kind == HST_MediaKind::None && !m_spec.filePath.isEmpty()
+        && QFileInfo(m_spec.filePath).isFile();
+}
+
+bool HST_Document::deleteFile()
+{
+    hostCall("document.deleteFile");
+    const QString path = m_spec.filePath;
+    const bool deleted = m_spec.media.kind == HST_MediaKind::None && !path.isEmpty()
+        && QFileInfo(path).isFile() && QFile::remove(path);
+    record(QStringLiteral("deleteFile"),
+        { { QStringLiteral("path"), path }, { QStringLiteral("deleted"), deleted } });
+    if (deleted && m_context && m_context->closeDocument)
+        m_context->closeDocument(m_key);
+    return deleted;
+}
+
+bool HST_Document::isSavable()
+{
+    hostCall("document.isSavable");
+    return m_spec.savable;
+}
+
+void HST_Document::setSaveOption(const char* operation, const char* name, bool& option, bool on)
+{
+    hostCall(operation);
+    if (option == on)
+        return;
+    option = on;
+    record(QStringLiteral("saveOption"),
+        { { QStringLiteral("option"), QLatin1String(name) }, { QStringLiteral("on"), on } });
+}
+
+void HST_Document::setSaveInfo(bool on)
+{
+    setSaveOption("document.setSaveInfo", "info", m_saveInfo, on);
+}
+
+void HST_Document::setSaveCorrect(bool on)
+{
+    setSaveOption("document.setSaveCorrect", "correct", m_saveCorrect, on);
+}
+
+void HST_Document::setSaveScale(bool on)
+{
+    setSaveOption("document.setSaveScale", "scale", m_saveScale, on);
+}
+
+void HST_Document::setDataName(const QString& name)
+{
+    hostCall("document.setDataName");
+    if (m_spec.media.kind != HST_MediaKind::None) {
+        m_spec.baseName = name;
+        if (m_context && m_context->media)
+            m_context->media->rename(m_spec.media, name);
+    }
+    record(QStringLiteral("setDataName"), { { QStringLiteral("name"), name } });
+}
+
+bool HST_Document::canCheckSaved()
+{
+    hostCall("document.canCheckSaved");
+    return !m_spec.media.serialNo.isEmpty();
 }

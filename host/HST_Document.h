@@ -8,9 +8,12 @@
 #include <QString>
 #include <QVariantList>
 
+#include <functional>
+
 struct HST_CameraState;
 class HST_Faults;
 class HST_HeadGroups;
+class HST_Media;
 class HST_Preferences;
 class HST_Recorder;
 
@@ -27,8 +30,10 @@ struct HST_DocumentContext
     int deviceCount = 1;
     // The multi-head devices among the documents.
     HST_HeadGroups* headGroups = nullptr;
-    // The partition selectPartition made current on the cameras.
-    int currentPartition = 1;
+    // The cameras' media, which a recording's document renames.
+    HST_Media* media = nullptr;
+    // Closes a document whose file was deleted.
+    std::function<void(int key)> closeDocument;
 };
 
 // A document of the reference host: one document of a simulated camera, or a file without one.
@@ -45,7 +50,11 @@ public:
     // The name of a document without a camera.
     QString fileName() const;
     bool isTemporary() const { return m_spec.temporary; }
-    const QList<HST_PartitionSpec>& partitionSpecs() const { return m_spec.partitions; }
+    void setTemporary(bool temporary) { m_spec.temporary = temporary; }
+    const HST_DocumentSpec& spec() const { return m_spec; }
+    int currentPartitionNumber() const { return m_currentPartition; }
+    // Frames a second of a partition: the scenario's, else 1000 for a camera and 0 for a file.
+    int rateOf(int partition) const;
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
@@ -131,15 +140,15 @@ public:
         hostCall("document.scaleFactor");
         return 1;
     }
-    int partitionRate(int) override
+    int partitionRate(int partition) override
     {
         hostCall("document.partitionRate");
-        return m_camera ? 1000 : 0;
+        return rateOf(partition);
     }
     int recordingRate(int = 0) override
     {
         hostCall("document.recordingRate");
-        return m_camera ? 1000 : 0;
+        return rateOf(m_currentPartition);
     }
     QString modelText(bool full = true) override;
     int deviceNumber() override;
@@ -155,7 +164,7 @@ public:
     int currentPartition(bool = true) override
     {
         hostCall("document.currentPartition");
-        return m_camera && m_context ? m_context->currentPartition : m_camera ? 1 : 0;
+        return m_camera ? m_currentPartition : 0;
     }
     void setPartitionDirty(int = 0) override { hostCall("document.setPartitionDirty"); }
     int partitionCount(int = 0, int = 0) override;
@@ -237,7 +246,7 @@ public:
     bool canConvertVaultPackDataName(int = 0) override
     {
         hostCall("document.canConvertVaultPackDataName");
-        return false;
+        return m_spec.media.kind == HST_MediaKind::StorageUnit;
     }
     void vaultPackSpace(int, int& total, int& freeMegabytes) override
     {
@@ -323,7 +332,8 @@ public:
     int lowLightMode() override;
 
     // DOC_Partitions
-    void selectPartition(int) override { hostCall("document.selectPartition"); }
+    // Recorded when it changes.
+    void selectPartition(int partition) override;
     QList<int>& partitions(QList<int>& out) override;
     QString& numberOptionText(
         QString& out, int, int, int, bool* usesSession, const QDateTime*) override;
@@ -384,12 +394,37 @@ public:
     void writePreset(int preset) override;
     bool presetNeedsReboot(int preset) override;
 
+    // What a save takes of it (HST_DocumentDescription, HST_Preview, HST_SaveWriter).
+    QVariantMap documentDescription(bool convert) override;
+    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int reserved,
+        const QDateTime& dateTime) override;
+    bool isMultiSkipA() override;
+    bool isMultiSkipB() override;
+    bool isOnSd() override;
+    bool isOnStorageUnit() override;
+    bool isOnCFast() override;
+    // A file on disk behind a document that isn't a recording on a medium.
+    bool canDeleteFile() override;
+    // Removes exactly that file, then the host closes the document.
+    bool deleteFile() override;
+    void prepareSaveRange() override { hostCall("document.prepareSaveRange"); }
+    bool isSavable() override;
+    // The three options are recorded when they change.
+    void setSaveInfo(bool on) override;
+    void setSaveCorrect(bool on) override;
+    void setSaveScale(bool on) override;
+    // A recording's name follows, on its medium too.
+    void setDataName(const QString& name) override;
+    // Recordings know their serial and data numbers.
+    bool canCheckSaved() override;
+
 private:
     void hostCall(const char* operation) const;
     void record(const QString& call, QJsonObject fields) const;
     QSize imageSizeValue() const;
     const HST_PartitionSpec* partitionSpec(int partition) const;
     QString firmwarePart(int index) const;
+    void setSaveOption(const char* operation, const char* name, bool& option, bool on);
 
     int m_key;
     HST_CameraState* m_camera;
@@ -400,4 +435,8 @@ private:
     HST_CustomData m_customData;
     bool m_selected = false;
     bool m_connectWanted = false;
+    int m_currentPartition = 1;
+    bool m_saveInfo = false;
+    bool m_saveCorrect = false;
+    bool m_saveScale = false;
 };

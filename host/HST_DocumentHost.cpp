@@ -233,6 +233,15 @@ int HST_DocumentHost::addFileDocument()
     return m_nextKey++;
 }
 
+int HST_DocumentHost::addDocument(const HST_DocumentSpec& spec)
+{
+    m_allDocuments.emplace_back(
+        new HST_Document(m_nextKey, nullptr, m_fileCount++, &m_documentContext, spec));
+    m_documents.insert(m_nextKey, m_allDocuments.back().get());
+    hostStateChanged();
+    return m_nextKey++;
+}
+
 int HST_DocumentHost::documentKey(DOC_Interface* doc)
 {
     hostCall("documentKey");

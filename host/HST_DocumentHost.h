@@ -40,6 +40,8 @@ public:
     HST_CameraState* addCamera(const HST_CameraSpec& spec);
     // A document without a camera; gives its key.
     int addFileDocument();
+    // A document without a camera, as the spec says; gives its key.
+    int addDocument(const HST_DocumentSpec& spec);
     // The document windows, which windowCount counts; without them every document counts as
     // one window.
     void setDocumentArea(QMdiArea* area);
@@ -105,7 +107,6 @@ public:
     HST_HeadGroups* headGroups() const { return m_headGroups.get(); }
     void removeAllDocuments(int reserved, bool unselectOnly) override;
     DOC_Interface* headParent(DOC_Interface* doc) override;
-    QList<int> deviceKeys() override;
     QList<int> settingsDocumentKeys() override;
     QMutex* cameraMutex() override
     {

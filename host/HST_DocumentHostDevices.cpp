@@ -82,12 +82,6 @@ DOC_Interface* HST_DocumentHost::headParent(DOC_Interface* doc)
     return head ? m_documents.value(m_headGroups->ownerOf(head->key()), nullptr) : nullptr;
 }
 
-QList<int> HST_DocumentHost::deviceKeys()
-{
-    hostCall("deviceKeys");
-    return settingsDocumentKeys();
-}
-
 QList<int> HST_DocumentHost::settingsDocumentKeys()
 {
     hostCall("settingsDocumentKeys");
@@ -174,7 +168,10 @@ void HST_DocumentHost::stopViewRecording()
 void HST_DocumentHost::selectPartition(int partition, bool update)
 {
     hostCall("selectPartition");
-    m_documentContext.currentPartition = partition;
+    for (HST_Document* document : qAsConst(m_documents)) {
+        if (document->cameraState())
+            document->selectPartition(partition);
+    }
     m_documentRecorder->record(QStringLiteral("selectPartition"),
         { { QStringLiteral("partition"), partition }, { QStringLiteral("update"), update } });
     hostStateChanged();

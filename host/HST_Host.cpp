@@ -76,7 +76,7 @@ static void initResources()
 HST_Host::HST_Host(
     const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
     : QObject(parent)
-    , HST_DocumentHost(recorder)
+    , HST_MediaHost(recorder)
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
@@ -101,6 +101,7 @@ HST_Host::HST_Host(
     setDocumentFaults(m_faults.get());
     setDeviceCount(scenario.deviceCount);
     addDocuments(scenario.cameras, scenario.fileDocuments);
+    setSaveWorld(scenario);
 }
 
 void HST_Host::setTypeRecords(const QList<int>& types)
@@ -115,7 +116,7 @@ void HST_Host::setTypeRecords(const QList<int>& types)
 bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
 {
     for (const char* fixed : { "visa", "generator", "faults", "exportSupportFile", "versionText",
-             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry" }) {
+             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry", "writer" }) {
         if (world.contains(QLatin1String(fixed))) {
             error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
             return false;
@@ -156,7 +157,10 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
             m_scenario.fileDocuments = part.fileDocuments;
         }
         replaceDocuments(m_scenario.cameras, m_scenario.fileDocuments);
+        resetMedia(m_scenario.cameras);
     }
+    if (has("loopSave"))
+        setLoopSave(part.loopSaveMode, part.loopSaveActive);
     m_recorder->record(QStringLiteral("world"),
         { { QStringLiteral("keys"), QJsonArray::fromStringList(world.keys()) } });
     if (has("mode"))

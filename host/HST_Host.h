@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/HST_DocumentHost.h"
+#include "host/HST_MediaHost.h"
 #include "host/HST_SaveRegistry.h"
 #include "host/HST_Scenario.h"
 #include "plugin/APP_CameraTypeRecord.h"
@@ -23,8 +23,9 @@ class QTranslator;
 // The reference host: APP_Host over the simulated cameras, documents and hubs of a scenario.
 // Messages are real message boxes, preferences an INI file, and every call the plug-in makes
 // that a test may want to see is recorded. The documents are in HST_DocumentHost, the status
-// queries in HST_StatusHost, the operations the simulation doesn't model in HST_NeutralHost.
-class HST_Host : public QObject, public HST_DocumentHost
+// queries in HST_StatusHost, removable media and saving in HST_MediaHost, the operations the
+// simulation doesn't model in HST_NeutralHost.
+class HST_Host : public QObject, public HST_MediaHost
 {
     Q_OBJECT
 

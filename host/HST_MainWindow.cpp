@@ -4,6 +4,7 @@
 #include "host/HST_DialogOpener.h"
 #include "host/HST_Document.h"
 #include "host/HST_DocumentArea.h"
+#include "host/HST_FileDialogMenu.h"
 #include "host/HST_Host.h"
 #include "host/HST_PageMenus.h"
 #include "host/HST_PagePanel.h"
@@ -104,7 +105,8 @@ void HST_MainWindow::buildMenus()
     openFile->setObjectName(QStringLiteral("host_openFile"));
     connect(openFile, &QAction::triggered, m_host, [this] { m_host->addFileDocument(); });
     file->addAction(findChild<QAction*>(QStringLiteral("host_closeDocument")));
-    file->addSeparator();
+    m_fileMenu = file;
+    m_fileDialogPlace = file->addSeparator();
     connect(file->addAction(QStringLiteral("Quit")), &QAction::triggered, this, &QWidget::close);
 
     QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
@@ -163,7 +165,10 @@ void HST_MainWindow::buildMenus()
 
 void HST_MainWindow::addPageActions()
 {
+    HST_FileDialogMenu::add(m_fileMenu, m_fileDialogPlace, m_opener, m_host);
     for (const HST_DialogOpener::Page& page : m_opener->pages()) {
+        if (HST_FileDialogMenu::isFileDialog(page.name))
+            continue;
         const QList<HST_PageMenuEntry> placed = HST_PageMenus::entries(page.name);
         for (const HST_PageMenuEntry& entry : placed) {
             const QString name = page.name;

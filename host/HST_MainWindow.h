@@ -64,6 +64,9 @@ private:
     HST_DocumentArea* m_documentArea;
     QTableWidget* m_documentTable;
     HST_DialogOpener* m_opener;
+    QMenu* m_fileMenu = nullptr;
+    // The file dialogs' entries go in front of it.
+    QAction* m_fileDialogPlace = nullptr;
     QMenu* m_viewMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QList<QAction*> m_pageActions;

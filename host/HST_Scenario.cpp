@@ -1,9 +1,11 @@
 #include "host/HST_Scenario.h"
 
 #include "host/HST_Json.h"
+#include "host/HST_MediaScenario.h"
 #include "plugin/SharedKeys.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -198,7 +200,8 @@ QList<HST_PartitionSpec> readPartitions(const QJsonObject& parent, const QString
         if (!array.at(i).isObject())
             wrongType(itemPath, "an object", array.at(i));
         const QJsonObject object = array.at(i).toObject();
-        checkKeys(object, itemPath, { "number", "name", "frames" });
+        checkKeys(object, itemPath,
+            { "number", "name", "frames", "width", "height", "capacity", "image", "rate" });
         HST_PartitionSpec partition;
         partition.number = readInt(object, itemPath, QStringLiteral("number"), i + 1, 0);
         if (seen.contains(partition.number))
@@ -208,6 +211,15 @@ QList<HST_PartitionSpec> readPartitions(const QJsonObject& parent, const QString
         partition.name = readString(object, itemPath, QStringLiteral("name"),
             QStringLiteral("Partition %1").arg(partition.number));
         partition.frames = unsigned(readInt(object, itemPath, QStringLiteral("frames"), 1000, 0));
+        partition.width = readInt(object, itemPath, QStringLiteral("width"), 640, 1, 16384);
+        partition.height = readInt(object, itemPath, QStringLiteral("height"), 480, 1, 16384);
+        if (object.contains(QLatin1String("capacity")))
+            partition.capacity = readInt(object, itemPath, QStringLiteral("capacity"), 0, 0);
+        partition.image = readString(object, itemPath, QStringLiteral("image"), QString());
+        if (!partition.image.isEmpty() && !QFileInfo(partition.image).isFile())
+            refuse(join(itemPath, QStringLiteral("image")),
+                QStringLiteral("no picture file \"%1\"").arg(partition.image));
+        partition.rate = readInt(object, itemPath, QStringLiteral("rate"), -1, 0, 10000000);
         partitions.append(partition);
     }
     return partitions;
@@ -216,7 +228,8 @@ QList<HST_PartitionSpec> readPartitions(const QJsonObject& parent, const QString
 // The keys a camera's documents and a file share.
 QStringList documentKeys()
 {
-    return { "customData", "comment", "partitions", "temporary" };
+    return { "customData", "comment", "partitions", "temporary", "savable", "multiSkipA",
+        "multiSkipB" };
 }
 
 // Keys left out keep what document holds.
@@ -228,6 +241,9 @@ void readDocument(const QJsonObject& object, const QString& path, HST_DocumentSp
     if (object.contains(QLatin1String("partitions")))
         document.partitions = readPartitions(object, path);
     document.temporary = readBool(object, path, QStringLiteral("temporary"), document.temporary);
+    document.savable = readBool(object, path, QStringLiteral("savable"), document.savable);
+    document.multiSkipA = readBool(object, path, QStringLiteral("multiSkipA"), false);
+    document.multiSkipB = readBool(object, path, QStringLiteral("multiSkipB"), false);
 }
 
 HST_DocumentSpec readFile(const QJsonValue& value, const QString& name, int index)
@@ -287,7 +303,8 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
                 "exposureTimingClass", "documents", "dummy", "needsErase", "recorded",
                 "syncRequired", "subnetmask", "gateway", "etherType", "headNumber", "headCount",
                 "firmware", "functions", "filePath", "connected", "mobile", "deviceName",
-                "wifiConnected", "linkSpeed", "bitDepth", "realBitDepth", "rostraLocked" }
+                "wifiConnected", "linkSpeed", "bitDepth", "realBitDepth", "rostraLocked",
+                "media" }
             + HST_CameraSetup::keys());
     HST_CameraSpec camera;
     camera.name = readString(
@@ -336,6 +353,11 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
     camera.realBitDepth
         = readInt(object, name, QStringLiteral("realBitDepth"), camera.bitDepth, 1, 16);
     camera.rostraLocked = readBool(object, name, QStringLiteral("rostraLocked"), false);
+    HST_MediaScenario::Refusal refusal;
+    if (object.contains(QLatin1String("media"))
+        && !HST_MediaScenario::readMedia(object.value(QLatin1String("media")),
+            join(name, QStringLiteral("media")), camera.media, refusal))
+        refuse(refusal.key, refusal.problem);
     QString key;
     QString problem;
     if (!HST_CameraSetup::read(object, name, camera.setup, key, problem))
@@ -464,7 +486,8 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     checkKeys(root, QString(),
         { "mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync", "visa",
             "generator", "faults", "versionText", "defaultCameraName", "cameraNameList",
-            "deviceCount", "saveRegistry", "status", "recordingStatus", "exportSupportFile" });
+            "deviceCount", "saveRegistry", "status", "recordingStatus", "exportSupportFile",
+            "loopSave", "writer" });
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
@@ -480,6 +503,9 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
             seen.insert(camera.ip);
             out.cameras.append(camera);
         }
+        HST_MediaScenario::Refusal refusal;
+        if (!HST_MediaScenario::checkDrives(out.cameras, refusal))
+            refuse(refusal.key, refusal.problem);
     }
     if (root.value(QLatin1String("files")).isArray()) {
         const QJsonArray files = readArray(root, QString(), QStringLiteral("files"));
@@ -526,6 +552,14 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
         out.saveDirectory = readString(registry, path, QStringLiteral("directory"), QString());
     }
     out.exportSupportFile = readOutcome(root, QString(), QStringLiteral("exportSupportFile"));
+    HST_MediaScenario::Refusal refusal;
+    if (root.contains(QLatin1String("loopSave"))
+        && !HST_MediaScenario::readLoopSave(
+            root.value(QLatin1String("loopSave")), out.loopSaveMode, out.loopSaveActive, refusal))
+        refuse(refusal.key, refusal.problem);
+    if (root.contains(QLatin1String("writer"))
+        && !HST_MediaScenario::readWriter(root.value(QLatin1String("writer")), out.writer, refusal))
+        refuse(refusal.key, refusal.problem);
     if (root.contains(QLatin1String("status")))
         readStatus(root, out);
     out.recordingStatus = readInt(root, QString(), QStringLiteral("recordingStatus"), 0, 0, 4);

@@ -2,6 +2,7 @@
 
 #include "host/HST_CameraSetup.h"
 #include "host/HST_Fault.h"
+#include "host/HST_MediaSpec.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -23,8 +24,16 @@ struct HST_Outcome
 struct HST_PartitionSpec
 {
     int number = 1;
-    QString name;
+    QString name = QStringLiteral("Partition 1");
     unsigned frames = 1000;
+    int width = 640;
+    int height = 480;
+    // Bytes; negative: a byte a pixel of every frame.
+    qint64 capacity = -1;
+    // A picture file drawn as the partition's frames; empty: the simulated frame.
+    QString image;
+    // Frames a second; negative: 1000 for a camera, none for a file.
+    int rate = -1;
 };
 
 // What one document holds beyond its camera: the same for every document of a camera.
@@ -34,11 +43,17 @@ struct HST_DocumentSpec
     // as "on" or "off".
     QVariantList customData;
     QString comment;
-    QList<HST_PartitionSpec> partitions { { 1, QStringLiteral("Partition 1"), 1000 } };
+    QList<HST_PartitionSpec> partitions { HST_PartitionSpec() };
     QString filePath;
     // A file's name; a camera's documents are named after the camera.
     QString baseName;
     bool temporary = false;
+    // What a save may take of it, and its multiple skip ranges (isMultiSkipA, isMultiSkipB).
+    bool savable = true;
+    bool multiSkipA = false;
+    bool multiSkipB = false;
+    // The recording on a medium the document was opened from.
+    HST_MediaLink media;
 };
 
 struct HST_CameraSpec
@@ -77,6 +92,7 @@ struct HST_CameraSpec
     int bitDepth = 8;
     int realBitDepth = 8;
     bool rostraLocked = false;
+    HST_MediaSpec media;
     // Presets and heads.
     HST_CameraSetup setup;
 };
@@ -133,6 +149,10 @@ public:
     // The save registry's fixed group and target directories; empty: none fixed.
     QString saveGroupDirectory;
     QString saveDirectory;
+    // isLoopSaveMode and isLoopSaveActive.
+    bool loopSaveMode = false;
+    bool loopSaveActive = false;
+    HST_WriterSpec writer;
     // Where the scenario came from, for messages.
     QString source;
 

@@ -62,7 +62,7 @@ int HST_SelectBoxHost::show(const QString& what)
     if (partition) {
         QVariantList partitions;
         if (const HST_Document* current = m_host->openDocument(m_host->currentDocumentKey())) {
-            for (const HST_PartitionSpec& spec : current->partitionSpecs())
+            for (const HST_PartitionSpec& spec : current->spec().partitions)
                 partitions.append(QVariantMap { { QStringLiteral("number"), spec.number },
                     { QStringLiteral("name"), spec.name } });
         }

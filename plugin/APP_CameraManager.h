@@ -36,7 +36,6 @@ public:
                            bool connect) = 0;
 
     // Camera settings files and presets.
-    virtual QList<int> deviceKeys() = 0;
     virtual QList<int> settingsDocumentKeys() = 0;
     // Held while camera settings are written; tried, never waited for.
     virtual QMutex* cameraMutex() = 0;

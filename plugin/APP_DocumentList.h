@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 class DOC_Interface;
 class JS_Mediator;
@@ -59,4 +60,10 @@ public:
     virtual DOC_Interface* headParent(DOC_Interface* doc) = 0;
     virtual void refreshViewsAfterPause() = 0;
     virtual bool isPhaseAdjusting() = 0;
+    // Keys of the documents that stand for devices.
+    virtual QList<int> deviceKeys() = 0;
+    // Opens the files as temporary documents.
+    virtual void openFiles(const QStringList& paths) = 0;
+    // Temporary documents become documents of their own.
+    virtual void importDocuments(const QList<int>& keys) = 0;
 };

@@ -4,6 +4,7 @@
 #include "plugin/APP_DocumentList.h"
 #include "plugin/APP_LinkCoreManager.h"
 #include "plugin/APP_LiveLoop.h"
+#include "plugin/APP_MediaEngine.h"
 #include "plugin/APP_PageStack.h"
 #include "plugin/APP_Playback.h"
 #include "plugin/APP_Recorder.h"
@@ -49,7 +50,8 @@ class SYNC_SHARED APP_Host : public APP_PageStack,
                              public APP_View,
                              public APP_WindowList,
                              public APP_UndoStack,
-                             public APP_LinkCoreManager
+                             public APP_LinkCoreManager,
+                             public APP_MediaEngine
 {
 public:
     ~APP_Host() override = default;

@@ -90,6 +90,10 @@ public:
     virtual int dualSlopeShutter() = 0;
     virtual int automaticExposureControl() = 0;
     virtual int lowLightMode() = 0;
+    // Names the data set the document stands for.
+    virtual void setDataName(const QString& name) = 0;
+    // The camera can tell which of its data were saved already.
+    virtual bool canCheckSaved() = 0;
 
     // Preset slots, numbered from 1.
     virtual int presetCount() = 0;

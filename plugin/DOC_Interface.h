@@ -7,9 +7,14 @@
 #include "plugin/DOC_ImageData.h"
 #include "plugin/DOC_Partitions.h"
 #include "plugin/DOC_Playback.h"
+#include "plugin/DOC_SaveRange.h"
 
 #include <QList>
 #include <QString>
+#include <QVariantMap>
+
+class QDateTime;
+class QPixmap;
 
 // One document: a connected camera head or a file.
 //
@@ -22,7 +27,8 @@ class SYNC_SHARED DOC_Interface : public DOC_Feed,
                                   public DOC_Camera,
                                   public DOC_Partitions,
                                   public DOC_Display,
-                                  public DOC_HeadGroup
+                                  public DOC_HeadGroup,
+                                  public DOC_SaveRange
 {
 public:
     ~DOC_Interface() override = default;
@@ -45,4 +51,20 @@ public:
     virtual QString& sortName(QString& out) = 0;
     // The multi-camera add-on holds this document's device locked.
     virtual bool isRostraLocked() = 0;
+    // The record fields of the document for lists, with the list "partitions" of a map per
+    // partition; convert: as a conversion lists it.
+    virtual QVariantMap documentDescription(bool convert) = 0;
+    // The partition's picture drawn to the size, as a preview of that mode shows it.
+    virtual QPixmap previewPixmap(int previewMode, int width, int height, int partition,
+        int reserved, const QDateTime& dateTime)
+        = 0;
+    virtual bool isMultiSkipA() = 0;
+    virtual bool isMultiSkipB() = 0;
+    // The document is a recording on a medium of that kind.
+    virtual bool isOnSd() = 0;
+    virtual bool isOnStorageUnit() = 0;
+    virtual bool isOnCFast() = 0;
+    // Whether the file behind the document may go, and deleting it; false when it didn't.
+    virtual bool canDeleteFile() = 0;
+    virtual bool deleteFile() = 0;
 };

@@ -6,6 +6,8 @@
 #include "plugin/PLG_CameraDevicePages.h"
 #include "plugin/PLG_DeviceInfoPages.h"
 #include "plugin/SharedKeys.h"
+#include "save/FileDialogKind.h"
+#include "save/SavePages.h"
 #include "util/ScopeExit.h"
 #include "web/JS_Mediator_Page.h"
 
@@ -49,6 +51,21 @@ const PLG_PageEntry pageTable[] = {
         &PLG_DeviceInfoPages::openEditDevice, nullptr, nullptr },
     { "livecontrol_searchsetting", PLG_PageKind::Dialog, "Camera Network Setting",
         &PLG_DeviceInfoPages::openSearchSetting, nullptr, nullptr },
+    // The file dialogs go by their kind's name; all show qrc:/filedialog.html.
+    { FileDialogKind::save, PLG_PageKind::Dialog, "Save",
+        &SavePages::openFileDialog<FileDialogKind::save>, nullptr, nullptr },
+    { FileDialogKind::snapshot, PLG_PageKind::Dialog, "Snapshot",
+        &SavePages::openFileDialog<FileDialogKind::snapshot>, nullptr, nullptr },
+    { FileDialogKind::convert, PLG_PageKind::Dialog, "Batch conversion",
+        &SavePages::openFileDialog<FileDialogKind::convert>, nullptr, nullptr },
+    { FileDialogKind::report, PLG_PageKind::Dialog, "Report output",
+        &SavePages::openFileDialog<FileDialogKind::report>, nullptr, nullptr },
+    { FileDialogKind::open, PLG_PageKind::Dialog, "Open",
+        &SavePages::openFileDialog<FileDialogKind::open>, nullptr, nullptr },
+    { "addnumberdialog", PLG_PageKind::Dialog, "Adding a number", &SavePages::openAddNumberDialog,
+        nullptr, nullptr },
+    { "convertparametereditdialog", PLG_PageKind::Dialog, "Saved after the automatic conversion",
+        &SavePages::openConvertParameterEditDialog, nullptr, nullptr },
     // Camera settings files and presets, the device panels and the select box.
     { "camerasettings", PLG_PageKind::Dialog, "Save camera settings",
         &PLG_CameraDevicePages::openCameraSettings, nullptr, nullptr },

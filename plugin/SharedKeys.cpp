@@ -303,6 +303,12 @@ const QString PREF_KEY_RECORDING_STOP_RECORDING_AFTER_LAST_PARTITION
     = QStringLiteral("recording/StopRecordingAfterLastPartition");
 const QString PREF_KEY_SAVE_ENABLE_BLANK_FILENAME = QStringLiteral("save/EnableBlankFilename");
 const QString PREF_KEY_SAVE_SAVE_INF_FILE = QStringLiteral("save/SaveInfFile");
+const QString PREF_KEY_EXPORT_FILE_FORMAT = QStringLiteral("export/fileformat");
+const QString PREF_KEY_EXPORT_CODEC = QStringLiteral("export/codec");
+const QString PREF_KEY_CONVERT_FILE_FORMAT = QStringLiteral("convert/fileformat");
+const QString PREF_KEY_CONVERT_CODEC = QStringLiteral("convert/codec");
+const QString PREF_KEY_SNAP_FILE_FORMAT = QStringLiteral("snap/fileformat");
+const QString PREF_KEY_REPORT_FILE_FORMAT = QStringLiteral("report/fileformat");
 const QString PREF_KEY_USERCUSTOM_CAMERA_NAME_FILE_PATH
     = QStringLiteral("usercustom/cameraNameFilePath");
 const QString PREF_KEY_XML_DIR = QStringLiteral("xml/dir");

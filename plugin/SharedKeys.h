@@ -182,6 +182,14 @@ extern const QString PREF_KEY_SAVE_ENABLE_BLANK_FILENAME;
 extern const QString PREF_KEY_SAVE_SAVE_INF_FILE;
 extern const QString PREF_KEY_USERCUSTOM_CAMERA_NAME_FILE_PATH;
 extern const QString PREF_KEY_XML_DIR;
+// The output format and movie codec of a save, a conversion, a snapshot and a report, as the
+// settings page offers them.
+extern const QString PREF_KEY_EXPORT_FILE_FORMAT;
+extern const QString PREF_KEY_EXPORT_CODEC;
+extern const QString PREF_KEY_CONVERT_FILE_FORMAT;
+extern const QString PREF_KEY_CONVERT_CODEC;
+extern const QString PREF_KEY_SNAP_FILE_FORMAT;
+extern const QString PREF_KEY_REPORT_FILE_FORMAT;
 // The address searched when "cameraconnection/SearchIP" holds none.
 extern const QString DEFAULT_SEARCH_IP;
 

@@ -29,6 +29,14 @@ shoot_dialog() {
     (cd "$root" && xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
         --open "$2" --script "$prefs.script" --quit > /dev/null)
 }
+# A file dialog opened by its kind: scenario, page, picture, steps before the shot; cancelled after.
+shoot_filedialog() {
+    local prefs; prefs="$(mktemp -d)/prefs.ini"
+    printf '[%s{"wait": 800}, {"screenshot": "%s"}, {"js": "$(\\"#cancel, .hostpage-cancel\\").first().click(); 1"}]' \
+        "${4:-}" "$3" > "$prefs.script"
+    xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
+        --open "$2" --script "$prefs.script" --quit > /dev/null
+}
 shoot "$root/tools/screenshots/external.json" "$out/external-no-distributor.png"
 shoot "$root/tools/screenshots/chain-nrack.json" "$out/chain-nrack.png"
 shoot "$root/host/scenarios/hubs.json" "$out/link-core-hubs.png"
@@ -42,4 +50,11 @@ shoot_dialog "$root/host/scenarios/devices.json" livecontrol_editdevice "$out/ed
     "0" editdevice_cancel
 shoot_dialog "$root/host/scenarios/devices.json" livecontrol_searchsetting \
     "$out/camera-search-setting.png" "0" searchsetting_cancel
+shoot_filedialog "$root/host/scenarios/save.json" filesavedialog "$out/save-dialog.png" \
+    '{"js": "filedialogPage.check(2, 1, true); 1"}, '
+shoot_filedialog "$root/host/scenarios/media.json" fileopendialog "$out/open-dialog.png" \
+    '{"js": "$(\"#openSd\").click(); filedialogPage.check(3, 1, true); 1"}, '
+shoot_filedialog "$root/host/scenarios/save.json" addnumberdialog:2 "$out/number-dialog.png"
+shoot_filedialog "$root/host/scenarios/save.json" convertparametereditdialog \
+    "$out/conversion-settings.png"
 ls -1 "$out"

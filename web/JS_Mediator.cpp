@@ -8,10 +8,12 @@
 #include "util/ScopeExit.h"
 #include "util/UTL_Barrier.h"
 #include "util/UTL_Messages.h"
+#include "util/UTL_TextHelpers.h"
 #include "util/UserOperationLog.h"
 #include "web/JS_ControlStatus.h"
 #include "web/JS_DeviceInfo.h"
 #include "web/JS_OrderedJson.h"
+#include "web/JS_SkipRange.h"
 #include "web/JS_SupportFileExport.h"
 #include "web/OperationEventHandler.h"
 
@@ -526,4 +528,37 @@ bool JS_Mediator::getConnectedCameraShowing()
     return UTL_Barrier::reported(m_host, false, [this] {
         return m_host->getPrefBool(PREF_KEY_DEVICEMANAGER_CONNECTED_CAMERA_ONLY_SHOWING, false);
     });
+}
+
+void JS_Mediator::updateSkipRange(const QMap<DOC_Interface*, QList<int>>& partitions)
+{
+    if (partitions.isEmpty())
+        return;
+    const unsigned lowest = JS_SkipRange::lowestFrames(partitions);
+    if (getSkipMode() != 1) {
+        m_skipMinFrames = 1.0;
+        m_skipMaxFrames = lowest != 0 ? double(lowest) : 1.0;
+    } else {
+        const QList<quint32> rates = JS_SkipRange::rates(partitions, m_host->isMemoryMode());
+        if (rates.isEmpty()) {
+            // Without a rate a time means nothing: the setting falls back to frames.
+            applySkipMode(0);
+            updateSkipRange(partitions);
+            return;
+        }
+        const int base = int(JS_SkipRange::commonBase(rates));
+        const bool baseChanged = base != m_skipBase;
+        m_skipBase = base;
+        m_skipMinFrames = base == 0 ? 1.0 : roundFraction(1000.0 / base, 5);
+        m_skipMaxFrames
+            = lowest != 0 ? roundFraction(lowest * m_skipMinFrames, 5) : m_skipMinFrames;
+        if (baseChanged)
+            m_skipSteps.clear();
+        if (m_skipSteps.isEmpty())
+            m_skipSteps = JS_SkipRange::steps(m_skipMinFrames, m_skipMaxFrames);
+    }
+    const double value = getSkipFrames();
+    const double limited = qBound(m_skipMinFrames, value, m_skipMaxFrames);
+    if (limited != value)
+        applySkipFrames(limited);
 }

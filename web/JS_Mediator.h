@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -126,6 +127,10 @@ public slots:
     bool getConnectedCameraShowing();
 
 protected:
+    // Works out the range (and the proposed values) of the skip setting for what is going to
+    // be saved: each document with its partitions. Nothing for an empty map.
+    void updateSkipRange(const QMap<DOC_Interface*, QList<int>>& partitions);
+
     APP_Host* m_host;
     QWebView* m_webView = nullptr;
     QString m_name;

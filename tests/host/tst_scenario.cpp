@@ -75,6 +75,38 @@ void tst_Scenario::read_data()
     QTest::newRow("fault in steps without a text")
         << QString() << QByteArray("{\"faults\": {\"translate\": {\"steps\": [1]}}}")
         << QStringList { "\"faults.translate\"", "no text" };
+
+    // Removable media and saving.
+    QTest::newRow("a drive letter that is none")
+        << QString() << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "E"}]}}]})")
+        << QStringList { "\"cameras[0].media.sd[0].drive\"", "not a drive letter" };
+    QTest::newRow("one drive for two slots of two cameras")
+        << QString() << QByteArray(R"({"cameras": [{"media": {"sd": [{"drive": "E:"}]}},
+            {"media": {"cfast": [{"drive": "e:"}]}}]})")
+        << QStringList { "\"cameras[1].media.cfast[0].drive\"", "drive E: is another slot's" };
+    QTest::newRow("a password on an SD card")
+        << QString() << QByteArray(R"({"cameras": [{"media": {"sd": [{"password": "x"}]}}]})")
+        << QStringList { "\"cameras[0].media.sd[0].password\"", "unknown key" };
+    QTest::newRow("more used than there is")
+        << QString()
+        << QByteArray(
+               R"({"cameras": [{"media": {"storageUnit": [{"capacity": 10, "used": 11}]}}]})")
+        << QStringList { "\"cameras[0].media.storageUnit[0].used\"", "more than the capacity" };
+    QTest::newRow("a recording's date that is none")
+        << QString()
+        << QByteArray(R"({"cameras": [{"media": {"cfast": [{"recordings": [{"name": "r",
+            "date": "2024-13-01"}]}]}}]})")
+        << QStringList { "\"cameras[0].media.cfast[0].recordings[0].date\"", "not a date" };
+    QTest::newRow("a format the writer doesn't make")
+        << QString() << QByteArray(R"({"writer": {"formats": ["PNG", "MOV"]}})")
+        << QStringList { "\"writer.formats\"", "can't write MOV files" };
+    QTest::newRow("a partition's picture that isn't there")
+        << QString()
+        << QByteArray(R"({"files": [{"partitions": [{"image": "/nonexistent.png"}]}]})")
+        << QStringList { "\"files[0].partitions[0].image\"", "no picture file" };
+    QTest::newRow("loop save given as a flag")
+        << QString() << QByteArray(R"({"loopSave": true})")
+        << QStringList { "\"loopSave\"", "expected an object" };
 }
 
 void tst_Scenario::read()
