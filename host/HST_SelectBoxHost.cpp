@@ -10,6 +10,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTimer>
+#include <QWebFrame>
+#include <QWebPage>
+#include <QWebView>
 #include <QWidget>
 
 namespace {
@@ -53,8 +56,13 @@ int HST_SelectBoxHost::show(const QString& what)
         return -1;
     bool loaded = false;
     QMetaObject::invokeMethod(m_box, "isLoaded", Q_RETURN_ARG(bool, loaded));
-    if (!loaded) {
-        // The page hears the box's signals only once it has loaded.
+    const QWebView* view = m_box->findChild<QWebView*>();
+    // The page hears the box's signals only once its script has connected to them.
+    if (!loaded || !view
+        || !view->page()
+                ->mainFrame()
+                ->evaluateJavaScript(QStringLiteral("window.selectboxReady === true"))
+                .toBool()) {
         QTimer::singleShot(loadRetryMs, this, [this, what] { show(what); });
         return 1;
     }

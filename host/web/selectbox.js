@@ -40,4 +40,6 @@ $(function () {
     $('#registerVariable').click(function () {
         items.slotNotifyVariableRegist($.trim($('#variableName').val()));
     });
+    // The box's owner waits for this before it tells the page what to offer.
+    window.selectboxReady = true;
 });
