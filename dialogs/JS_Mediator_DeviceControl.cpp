@@ -1,14 +1,17 @@
 #include "dialogs/JS_Mediator_DeviceControl.h"
 
+#include "dialogs/GUI_CommentDialog.h"
 #include "dialogs/GUI_CustomInfoDialog.h"
+#include "dialogs/GUI_EditInfoDialog.h"
 #include "plugin/APP_Host.h"
 #include "plugin/APP_PauseGuard.h"
 #include "plugin/DOC_Interface.h"
-#include "util/APP_Exception.h"
 #include "util/FunctionLogGuard.h"
 #include "util/UTL_Barrier.h"
 #include "util/UTL_Messages.h"
 #include "web/OperationEventHandler.h"
+
+#include <QDateTime>
 
 namespace {
 
@@ -76,8 +79,18 @@ void JS_Mediator_DeviceControl::editInfo()
     OperationEventHandler guard(
         this, QStringLiteral("JS_Mediator_DeviceControl::editInfo"), QString());
     UTL_Barrier::reported(m_host, [this] {
-        throw APP_Exception(
-            UTL_Messages::translate(m_host, QStringLiteral("The dialog is not available.")), 0);
+        // The selected documents, or the current one when none is selected.
+        QList<int> keys;
+        for (int key : m_host->documentKeys(0)) {
+            DOC_Interface* document = m_host->document(key);
+            if (document && document->isSelected())
+                keys.append(key);
+        }
+        if (keys.isEmpty() && m_host->currentKey() != -1)
+            keys.append(m_host->currentKey());
+        GUI_EditInfoDialog dialog(
+            m_host, 1, false, nullptr, -1, keys, QDateTime::currentDateTime());
+        dialog.exec();
     });
 }
 
@@ -86,8 +99,8 @@ void JS_Mediator_DeviceControl::editComment()
     OperationEventHandler guard(
         this, QStringLiteral("JS_Mediator_DeviceControl::editComment"), QString());
     UTL_Barrier::reported(m_host, [this] {
-        throw APP_Exception(
-            UTL_Messages::translate(m_host, QStringLiteral("The dialog is not available.")), 0);
+        GUI_CommentDialog dialog(m_host, m_host->currentDocument());
+        dialog.exec();
     });
 }
 

@@ -12,6 +12,7 @@
 #include "FuzzCheck.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <iterator>
@@ -32,8 +33,32 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     check(scenario.mode >= 0 && scenario.mode <= 2);
     check(scenario.files >= 0 && scenario.files <= 64);
     check(scenario.fileDocuments.size() == scenario.files);
+    const auto checkView = [](const HST_ViewState& view) {
+        check(view.zoom == 0 || (view.zoom >= 1.0 / 64 && view.zoom <= 64));
+        check(view.rotation % 90 == 0 && view.rotation >= 0 && view.rotation < 360);
+        check(
+            view.binningExponent >= 0 && view.binningExponent <= HST_ViewState::MaxBinningExponent);
+        check(view.scaleFactor >= 1 && view.scaleFactor <= HST_ViewState::MaxScaleFactor);
+        check(!view.imageSize.isEmpty());
+        check(view.wholeImageSize().width() >= view.imageSize.width()
+            && view.wholeImageSize().height() >= view.imageSize.height());
+        check(!view.shownFrameSize().isEmpty());
+        // Where the window is at least as fine as the image, the window pixel under an image
+        // pixel maps back to it.
+        const QSize window(97, 61);
+        if (view.effectiveZoom(window) >= 1) {
+            const QPoint last(view.imageSize.width() - 1, 0);
+            const QPointF centre = view.imageToView(window).map(QPointF(last) + QPointF(0.5, 0.5));
+            check(view.viewToImage(
+                      QPoint(int(std::floor(centre.x())), int(std::floor(centre.y()))), window)
+                == last);
+        }
+    };
+    for (const HST_DocumentSpec& file : scenario.fileDocuments)
+        checkView(file.view);
     QSet<QString> cameraIps;
     for (const HST_CameraSpec& camera : scenario.cameras) {
+        checkView(camera.document.view);
         check(camera.documents >= 0 && camera.documents <= 64);
         check(camera.bitDepth >= 1 && camera.bitDepth <= 16);
         check(camera.realBitDepth >= 1 && camera.realBitDepth <= 16);

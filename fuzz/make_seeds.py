@@ -136,6 +136,9 @@ def text_helpers():
 def scenario():
     seeds = {
         "empty.json": b"{}",
+        "timecode.json": b'{"timeCode": {"index": 1, "displayUnit": "deg", "oneFrame": -0.5, "startValue": 10,'
+                         b' "reset": true, "resetValue": 8, "scopeDisplayIndex": 3, "decimalPlaceIndex": 2,'
+                         b' "decimalDivide": true, "usingFileInfo": false, "overwrite": true, "realTime": false}}',
         "cameras.json": b'{"mode": 0, "syncCapableTypes": [1, 2], "cameras": [{"name": "A", "ip": "192.168.0.10",'
                         b' "type": 1, "documents": 2, "dummy": false, "needsErase": true}, {"ip": "192.168.0.11",'
                         b' "triggerMode": 2, "exposureTimingFlag": 1}], "files": 3}',
@@ -156,9 +159,25 @@ def scenario():
                        b' "recordingStatus": 4, "exportSupportFile": {"result": "error"},'
                        b' "cameras": [{"connected": false, "functions": [176, 117], "bitDepth": 12,'
                        b' "realBitDepth": 10, "deviceName": "", "mobile": true}]}',
+        "views.json": b'{"view": {"zoom": 0.5, "imageSize": [640, 480]}, "multiLock": true, "crossCursor": false,'
+                      b' "cameras": [{"view": {"rotation": 90, "mirrorHorizontally": true, "binning": 2,'
+                      b' "scaleFactor": 2, "fullImageSize": [1280, 960]}}], "files": [{"view": {"zoom": 0,'
+                      b' "rotation": 270, "mirrorVertically": true}}]}',
     }
     for name, data in seeds.items():
         write("fuzz_scenario", name, data)
+
+
+def input_steps():
+    seeds = {
+        "drag.json": b'{"drag": {"document": 1, "from": [239, 179], "to": [260, 200], "steps": 3}}',
+        "mouse.json": b'{"mouse": {"document": 2, "press": [10.5, -3]}}',
+        "leave.json": b'{"mouse": {"leave": true}}',
+        "key.json": b'{"key": "Shift+Ctrl+Left"}',
+        "refused.json": b'{"drag": {"from": [1], "to": "x", "steps": 0}, "key": "Left, Right"}',
+    }
+    for name, data in seeds.items():
+        write("fuzz_input_steps", name, data)
 
 
 def custom_info():
@@ -207,12 +226,25 @@ def save_lists():
         write("fuzz_save_lists", name, data)
 
 
+def display_list():
+    # [order a page reports]\n[the list as the preference holds it]
+    seeds = {
+        "default.txt": b"\nSyncSignalState:true,CameraState:true,<hr>,Camera name:true,Comment:false,Logo:false",
+        "reordered.txt": b"Comment,HR,Camera name,Unknown\nCamera name:true,<hr>,Comment:false",
+        "broken.txt": b"HR,HR,a\na,a:true,:x,b:,c:true:false,<hr>,x'><script>:true,,\xe6\x9d\xb1:true",
+    }
+    for name, data in seeds.items():
+        write("fuzz_display_list", name, data)
+
+
 if __name__ == "__main__":
     visa_reply()
     visa_session()
     sim_request()
     text_helpers()
     scenario()
+    input_steps()
     custom_info()
     camera_names()
     save_lists()
+    display_list()

@@ -1,6 +1,7 @@
 #include "host/HST_Application.h"
 
 #include "host/HST_DialogOpener.h"
+#include "host/HST_Document.h"
 #include "host/HST_Faults.h"
 #include "host/HST_GeneratorSimulator.h"
 #include "host/HST_Host.h"
@@ -30,13 +31,16 @@ void printLine(FILE* stream, const QString& text)
 
 } // namespace
 
-QString HST_Application::defaultPluginFile()
+QStringList HST_Application::defaultPluginFiles()
 {
+    QStringList files;
 #ifdef HST_DEFAULT_PLUGIN_FILE
-    return QStringLiteral(HST_DEFAULT_PLUGIN_FILE);
-#else
-    return QString();
+    files << QStringLiteral(HST_DEFAULT_PLUGIN_FILE);
 #endif
+#ifdef HST_ROI_PLUGIN_FILE
+    files << QStringLiteral(HST_ROI_PLUGIN_FILE);
+#endif
+    return files;
 }
 
 const char* HST_Application::visaLibraryVariable()
@@ -61,8 +65,12 @@ bool HST_Application::parseArguments(
     parser.addHelpOption();
     const QCommandLineOption scenario(QStringLiteral("scenario"),
         QStringLiteral("Scenario file (JSON)."), QStringLiteral("FILE"));
-    const QCommandLineOption plugin(
-        QStringLiteral("plugin"), QStringLiteral("Plug-in file to load."), QStringLiteral("FILE"));
+    const QCommandLineOption plugin(QStringLiteral("plugin"),
+        QStringLiteral("Plug-in file to load; may be given more than once."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption pluginList(QStringLiteral("plugins"),
+        QStringLiteral("Plug-in files to load, in order, separated by commas."),
+        QStringLiteral("A,B"));
     const QCommandLineOption prefs(
         QStringLiteral("prefs"), QStringLiteral("Preferences file (INI)."), QStringLiteral("FILE"));
     const QCommandLineOption translations(QStringLiteral("translations"),
@@ -86,8 +94,8 @@ bool HST_Application::parseArguments(
         QStringLiteral("Leave when the pressed plug-in returns and the steps are done."));
     const QCommandLineOption autoAnswer(QStringLiteral("auto-answer"),
         QStringLiteral("Answer every message box as it shows: OK, else No."));
-    parser.addOptions({ scenario, plugin, prefs, translations, press, open, script, answer, record,
-        screenshot, quit, autoAnswer });
+    parser.addOptions({ scenario, plugin, pluginList, prefs, translations, press, open, script,
+        answer, record, screenshot, quit, autoAnswer });
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return false;
@@ -102,7 +110,9 @@ bool HST_Application::parseArguments(
         return false;
     }
     options.scenarioFile = parser.value(scenario);
-    options.pluginFile = parser.value(plugin);
+    options.pluginFiles = parser.values(plugin);
+    for (const QString& value : parser.values(pluginList))
+        options.pluginFiles += value.split(QLatin1Char(','), Qt::SkipEmptyParts);
     options.prefsFile = parser.value(prefs);
     options.translationsFile = parser.value(translations);
     options.press = parser.value(press);
@@ -129,8 +139,9 @@ HST_Application::~HST_Application()
     // failure in a box that an automated run must answer.
     if (m_script)
         m_script->answerOnly();
-    if (m_loader)
-        m_loader->release();
+    // Unloaded in the reverse order of loading.
+    for (auto it = m_loaders.rbegin(); it != m_loaders.rend(); ++it)
+        (*it)->release();
     m_window.reset();
     m_host.reset();
     m_generator.reset();
@@ -146,7 +157,26 @@ bool HST_Application::isInteractive() const
 
 PLG_Interface* HST_Application::plugin() const
 {
-    return m_loader ? m_loader->plugin() : nullptr;
+    const QList<PLG_Interface*> loaded = plugins();
+    return loaded.isEmpty() ? nullptr : loaded.first();
+}
+
+QList<PLG_Interface*> HST_Application::plugins() const
+{
+    QList<PLG_Interface*> loaded;
+    for (const auto& loader : m_loaders) {
+        if (loader->plugin())
+            loaded.append(loader->plugin());
+    }
+    return loaded;
+}
+
+QStringList HST_Application::pluginFiles() const
+{
+    QStringList files = m_options.pluginFiles;
+    if (!m_options.pluginFile.isEmpty())
+        files.prepend(m_options.pluginFile);
+    return files.isEmpty() ? defaultPluginFiles() : files;
 }
 
 int HST_Application::refuse(int code, const QString& message)
@@ -236,9 +266,14 @@ int HST_Application::start()
     m_script->setHost({ [window] { return window->isPluginRunning(); },
         [window](const QString& name) { return window->canPress(name); },
         [window](const QString& name) { window->press(name); },
-        [host](const QJsonObject& world, QString& error) {
-            return host->changeWorld(world, error);
-        } });
+        [host](
+            const QJsonObject& world, QString& error) { return host->changeWorld(world, error); },
+        [host](int key) -> QWidget* {
+            const HST_Document* document = host->openDocument(key);
+            return document ? document->viewWidget() : nullptr;
+        },
+        [host] { return host->currentDocumentKey(); },
+        [host](int key) { return host->rectangleRecord(key); } });
     m_script->setAutoAnswer(m_options.autoAnswer);
     connect(m_script.get(), &HST_ScriptRunner::acting, this,
         [host](int step) { host->faults()->setStep(step); });
@@ -247,18 +282,20 @@ int HST_Application::start()
     connect(m_window.get(), &HST_MainWindow::executeFinished, this, &HST_Application::checkFinished,
         Qt::QueuedConnection);
 
-    const QString pluginFile
-        = m_options.pluginFile.isEmpty() ? defaultPluginFile() : m_options.pluginFile;
-    m_loader.reset(new HST_PluginLoader(pluginFile));
     // The plug-in may tell something while it loads.
     m_script->startAnswering();
-    if (!m_loader->load(m_host.get(), problem))
-        return refuse(PluginFailed, problem);
-    m_window->addPlugin(m_loader->plugin());
+    for (const QString& pluginFile : pluginFiles()) {
+        m_loaders.emplace_back(new HST_PluginLoader(pluginFile));
+        HST_PluginLoader* loader = m_loaders.back().get();
+        if (!loader->load(m_host.get(), problem))
+            return refuse(PluginFailed, problem);
+        m_host->plugins().add(loader->plugin());
+        m_window->addPlugin(loader->plugin());
+        m_recorder->record(QStringLiteral("start"),
+            { { QStringLiteral("plugin"), pluginFile }, { QStringLiteral("name"), loader->name() },
+                { QStringLiteral("prefs"), m_host->preferences()->path() } });
+    }
     m_started = true;
-    m_recorder->record(QStringLiteral("start"),
-        { { QStringLiteral("plugin"), pluginFile }, { QStringLiteral("name"), m_loader->name() },
-            { QStringLiteral("prefs"), m_host->preferences()->path() } });
     return Success;
 }
 

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
 class HST_GeneratorSimulator;
 class HST_Host;
@@ -22,7 +23,10 @@ struct HST_Options
     QString scenarioFile;
     // Scenario given as JSON text; wins over scenarioFile.
     QByteArray scenarioJson;
+    // The plug-in files, loaded in this order; pluginFile, when set, comes first. Both empty:
+    // the default ones.
     QString pluginFile;
+    QStringList pluginFiles;
     QString prefsFile;
     QString translationsFile;
     QString press;
@@ -55,8 +59,8 @@ public:
         ScriptFailed = 3, // a step found nothing to act on, or --press or --open named nothing
     };
 
-    // The plug-in file used when none is given.
-    static QString defaultPluginFile();
+    // The plug-in files loaded when none is given: synccontrol, then roi, of the same build.
+    static QStringList defaultPluginFiles();
     // Environment variable by which the plug-in finds the VISA library.
     static const char* visaLibraryVariable();
     // Our VISA library of the same build, offered when the scenario says so; empty if none.
@@ -78,7 +82,11 @@ public:
     HST_Recorder* recorder() const { return m_recorder.get(); }
     HST_Host* host() const { return m_host.get(); }
     HST_MainWindow* mainWindow() const { return m_window.get(); }
+    // The first plug-in loaded; null if none.
     PLG_Interface* plugin() const;
+    QList<PLG_Interface*> plugins() const;
+    // The files to load, in order.
+    QStringList pluginFiles() const;
     HST_ScriptRunner* script() const { return m_script.get(); }
 
 private slots:
@@ -96,7 +104,7 @@ private:
     std::unique_ptr<HST_Recorder> m_recorder;
     std::unique_ptr<HST_Host> m_host;
     std::unique_ptr<HST_MainWindow> m_window;
-    std::unique_ptr<HST_PluginLoader> m_loader;
+    std::vector<std::unique_ptr<HST_PluginLoader>> m_loaders;
     std::unique_ptr<HST_ScriptRunner> m_script;
     std::unique_ptr<HST_GeneratorSimulator> m_generator;
     QEventLoop m_loop;

@@ -68,6 +68,9 @@ int HST_DialogOpener::open(const QString& name, const QString& arg)
         QMetaObject::invokeMethod(m_factory, "open", Q_RETURN_ARG(int, result),
             Q_ARG(QString, name), Q_ARG(QString, arg));
         m_host->setPluginWindowOpen(false);
+        // What the dialog changed shows now, as a host refreshes once a modal dialog closes:
+        // a comment written without telling the host, for one.
+        emit m_host->stateChanged();
     } else if (m_panelHandlers.contains(name)) {
         result = m_panelHandlers.value(name)(arg);
     } else {

@@ -3,6 +3,7 @@
 #include "host/HST_CameraState.h"
 #include "host/HST_DocumentDescription.h"
 #include "host/HST_Faults.h"
+#include "host/HST_InfoHost.h"
 #include "host/HST_Media.h"
 #include "host/HST_NumberOption.h"
 #include "host/HST_Preview.h"
@@ -24,6 +25,7 @@ HST_Document::HST_Document(int key, HST_CameraState* camera, int documentIndex,
     , m_comment(spec.comment)
     , m_customData(spec.customData, context ? context->recorder : nullptr, key)
     , m_currentPartition(spec.partitions.isEmpty() ? 1 : spec.partitions.first().number)
+    , m_view(spec.view)
 {
 }
 
@@ -172,18 +174,6 @@ QString& HST_Document::sortName(QString& out)
 {
     hostCall("document.sortName");
     return baseName(out);
-}
-
-QSize HST_Document::imageSize(QSize& out)
-{
-    hostCall("document.imageSize");
-    out = imageSizeValue();
-    return out;
-}
-
-QSize HST_Document::imageSizeValue() const
-{
-    return QSize(1024, 1024);
 }
 
 QString HST_Document::ipAddress(bool)
@@ -428,14 +418,6 @@ QVariantMap HST_Document::documentDescription(bool convert)
     return HST_DocumentDescription::of(*this, convert);
 }
 
-QPixmap HST_Document::previewPixmap(
-    int, int width, int height, int partition, int, const QDateTime&)
-{
-    hostCall("document.previewPixmap");
-    const HST_PartitionSpec* spec = partitionSpec(partition);
-    return spec ? HST_Preview::preview(m_key, title(), *spec, width, height) : QPixmap();
-}
-
 bool HST_Document::isMultiSkipA()
 {
     hostCall("document.isMultiSkipA");
@@ -532,4 +514,26 @@ bool HST_Document::canCheckSaved()
 {
     hostCall("document.canCheckSaved");
     return !m_spec.media.serialNo.isEmpty();
+}
+
+QPixmap HST_Document::previewPixmap(
+    int, int width, int height, int partition, int set, const QDateTime&)
+{
+    hostCall("document.previewPixmap");
+    // A document the scenario gives no partitions shows its plain frame for any.
+    if (!m_spec.partitions.isEmpty() && !partitionSpec(partition))
+        return QPixmap();
+    // Sizes a page can't show are held to what it can.
+    const QSize size = QSize(width, height).expandedTo(QSize(1, 1)).boundedTo(QSize(8192, 8192));
+    if (!m_context || !m_context->info)
+        return QPixmap(size);
+    return m_context->info->informationPreview(*this, size, partition, set);
+}
+
+void HST_Document::reloadLogo()
+{
+    hostCall("document.reloadLogo");
+    record(QStringLiteral("reloadLogo"), {});
+    if (m_context && m_context->info)
+        m_context->info->reloadLogos();
 }

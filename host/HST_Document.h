@@ -4,9 +4,11 @@
 #include "host/HST_Scenario.h"
 #include "plugin/DOC_Interface.h"
 
+#include <QPointer>
 #include <QSize>
 #include <QString>
 #include <QVariantList>
+#include <QWidget>
 
 #include <functional>
 
@@ -14,6 +16,7 @@ struct HST_CameraState;
 class HST_Faults;
 class HST_HeadGroups;
 class HST_Media;
+class HST_InfoHost;
 class HST_Preferences;
 class HST_Recorder;
 
@@ -34,6 +37,8 @@ struct HST_DocumentContext
     HST_Media* media = nullptr;
     // Closes a document whose file was deleted.
     std::function<void(int key)> closeDocument;
+    // Draws previews with the information block and reloads logos.
+    HST_InfoHost* info = nullptr;
 };
 
 // A document of the reference host: one document of a simulated camera, or a file without one.
@@ -58,11 +63,22 @@ public:
     // The host's own view, for its window: neither recorded nor faulted.
     QString commentText() const { return m_comment; }
     const QVariantList& customItems() const { return m_customData.items(); }
+    QSize resolution() const { return m_view.imageSize; }
     // What the host's window shows for it: the camera's name, or the file's.
     QString title() const;
     // The host's selection; not operations of the plug-in's, so neither recorded nor faulted.
     bool selected() const { return m_selected; }
     void setSelected(bool selected) { m_selected = selected; }
+    // How its window shows it (HST_DocumentDisplay.cpp); the host's own, neither recorded nor
+    // faulted.
+    const HST_ViewState& view() const { return m_view; }
+    void setView(const HST_ViewState& view);
+    void setViewWidget(QWidget* widget) { m_viewWidget = widget; }
+    QWidget* viewWidget() const { return m_viewWidget; }
+    // The size of its window, empty without one.
+    QSize windowSize() const;
+    // Schedules a repaint of its window, if it has one.
+    void repaintView() const;
 
     // DOC_Interface
     DOC_Camera* asCamera() override;
@@ -87,7 +103,8 @@ public:
     QString& baseName(QString& out) override;
     bool isMobile() override;
     QString& partitionName(QString& out, int partition) override;
-    void refresh(bool) override { hostCall("document.refresh"); }
+    // Schedules a repaint of its window.
+    void refresh(bool) override;
     QString& sortName(QString& out) override;
     bool isRostraLocked() override;
 
@@ -98,21 +115,9 @@ public:
     // DOC_ImageData
     QSize imageSize(QSize& out) override;
     void setCursorPosition(const QPoint&) override { hostCall("document.setCursorPosition"); }
-    void extent(QSize& out) override
-    {
-        hostCall("document.extent");
-        out = imageSizeValue();
-    }
-    void viewToImage(QPoint& out, const QPoint& viewPos, bool) override
-    {
-        hostCall("document.viewToImage");
-        out = viewPos;
-    }
-    bool isRotatedQuarter() override
-    {
-        hostCall("document.isRotatedQuarter");
-        return false;
-    }
+    void extent(QSize& out) override;
+    void viewToImage(QPoint& out, const QPoint& viewPos, bool) override;
+    bool isRotatedQuarter() override;
     QString& comment(QString& out) override
     {
         hostCall("document.comment");
@@ -120,26 +125,16 @@ public:
     }
     void setComment(const QString& text) override;
     bool imageFormat(int& depth, int& realDepth) override;
+    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int set,
+        const QDateTime& dateTime) override;
 
     // DOC_Camera
     QString ipAddress(bool current = true) override;
     int cameraType() override;
     QString cameraName(bool current = true) override;
-    void fullImageSize(QSize& out) override
-    {
-        hostCall("document.fullImageSize");
-        out = imageSizeValue();
-    }
-    bool hasScaleFactor() override
-    {
-        hostCall("document.hasScaleFactor");
-        return false;
-    }
-    int scaleFactor() override
-    {
-        hostCall("document.scaleFactor");
-        return 1;
-    }
+    void fullImageSize(QSize& out) override;
+    bool hasScaleFactor() override;
+    int scaleFactor() override;
     int partitionRate(int partition) override
     {
         hostCall("document.partitionRate");
@@ -354,31 +349,12 @@ public:
         hostCall("document.isToolSet");
         return false;
     }
-    float rotationFraction() override
-    {
-        hostCall("document.rotationFraction");
-        return 0.0f;
-    }
-    bool isMirroredHorizontally() override
-    {
-        hostCall("document.isMirroredHorizontally");
-        return false;
-    }
-    bool isMirroredVertically() override
-    {
-        hostCall("document.isMirroredVertically");
-        return false;
-    }
-    float zoomFactor(bool) override
-    {
-        hostCall("document.zoomFactor");
-        return 1.0f;
-    }
-    int binningExponent() override
-    {
-        hostCall("document.binningExponent");
-        return 0;
-    }
+    float rotationFraction() override;
+    bool isMirroredHorizontally() override;
+    bool isMirroredVertically() override;
+    float zoomFactor(bool) override;
+    int binningExponent() override;
+    void reloadLogo() override;
 
     // DOC_HeadGroup
     bool isHeadGroupOwner() override;
@@ -396,8 +372,8 @@ public:
 
     // What a save takes of it (HST_DocumentDescription, HST_Preview, HST_SaveWriter).
     QVariantMap documentDescription(bool convert) override;
-    QPixmap previewPixmap(int previewMode, int width, int height, int partition, int reserved,
-        const QDateTime& dateTime) override;
+    // The scenario's partition, or null for a number out of range.
+    const HST_PartitionSpec* partitionSpec(int partition) const;
     bool isMultiSkipA() override;
     bool isMultiSkipB() override;
     bool isOnSd() override;
@@ -421,8 +397,6 @@ public:
 private:
     void hostCall(const char* operation) const;
     void record(const QString& call, QJsonObject fields) const;
-    QSize imageSizeValue() const;
-    const HST_PartitionSpec* partitionSpec(int partition) const;
     QString firmwarePart(int index) const;
     void setSaveOption(const char* operation, const char* name, bool& option, bool on);
 
@@ -439,4 +413,6 @@ private:
     bool m_saveInfo = false;
     bool m_saveCorrect = false;
     bool m_saveScale = false;
+    HST_ViewState m_view;
+    QPointer<QWidget> m_viewWidget;
 };

@@ -12,6 +12,16 @@ HST_DocumentArea::HST_DocumentArea(HST_Host* host, QWidget* parent)
     , m_host(host)
 {
     setObjectName(QStringLiteral("host_documentArea"));
+    // A repaint is scheduled, never done on the spot: many updates in one pass paint once. The
+    // information block follows the preferences and the documents.
+    const auto repaint = [this] {
+        for (const QPointer<QMdiSubWindow>& window : qAsConst(m_windows)) {
+            if (window && window->widget())
+                window->widget()->update();
+        }
+    };
+    connect(host, &HST_Host::uiUpdateRequested, this, repaint);
+    connect(host, &HST_Host::stateChanged, this, repaint);
 }
 
 void HST_DocumentArea::sync()
@@ -31,15 +41,17 @@ void HST_DocumentArea::sync()
     for (auto it = open.begin(); it != open.end(); ++it) {
         if (m_windows.contains(it.key()))
             continue;
-        auto* view = new HST_DocumentView(it.key(), it.value()->title());
+        auto* view = new HST_DocumentView(m_host, it.value());
         QMdiSubWindow* window = addSubWindow(view);
         window->setObjectName(QStringLiteral("document_%1").arg(it.key()));
         window->setWindowTitle(it.value()->title());
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->installEventFilter(this);
         window->resize(320, 260);
-        const int slot = m_windows.size() % 6;
-        window->move(slot * 28, slot * 28);
+        // Side by side, two to a row and two rows; further windows cascade over those.
+        const int slot = m_windows.size();
+        const int layer = slot / 4;
+        window->move((slot % 2) * 324 + layer * 28, (slot / 2 % 2) * 264 + layer * 28);
         window->show();
         m_windows.insert(it.key(), window);
     }

@@ -1,16 +1,35 @@
 #include "host/HST_DocumentView.h"
 
+#include "host/HST_Document.h"
+#include "host/HST_ViewHost.h"
+
+#include <QKeyEvent>
 #include <QLinearGradient>
+#include <QMouseEvent>
 #include <QPainter>
 
-HST_DocumentView::HST_DocumentView(int key, const QString& title, QWidget* parent)
+HST_DocumentView::HST_DocumentView(HST_ViewHost* host, HST_Document* document, QWidget* parent)
     : QWidget(parent)
-    , m_key(key)
-    , m_frame(makeFrame(key, title))
+    , m_host(host)
+    , m_document(document)
+    , m_key(document->key())
+    , m_title(document->title())
+    , m_frame(makeFrame(m_key, m_title, document->view().shownFrameSize()))
 {
-    setObjectName(QStringLiteral("documentView_%1").arg(key));
-    setWindowTitle(title);
+    setObjectName(QStringLiteral("documentView_%1").arg(m_key));
+    setWindowTitle(m_title);
     setMinimumSize(160, 120);
+    // Plug-ins follow the mouse with the button up too: the cursor tells what a press would do.
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    document->setViewWidget(this);
+}
+
+void HST_DocumentView::setFrame(const QImage& frame)
+{
+    m_frame = frame;
+    m_frameGiven = true;
+    update();
 }
 
 QImage HST_DocumentView::makeFrame(int key, const QString& title, const QSize& size)
@@ -43,13 +62,93 @@ QImage HST_DocumentView::makeFrame(int key, const QString& title, const QSize& s
     return image;
 }
 
+const QImage& HST_DocumentView::shownFrame()
+{
+    const QSize size = m_document->view().shownFrameSize();
+    if (!m_frameGiven && m_frame.size() != size)
+        m_frame = makeFrame(m_key, m_title, size);
+    return m_frame;
+}
+
 void HST_DocumentView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
-    const QSize fitted = m_frame.size().scaled(size(), Qt::KeepAspectRatio);
-    QRect target(QPoint(), fitted);
-    target.moveCenter(rect().center());
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(target, m_frame);
+    const HST_ViewState& view = m_document->view();
+    painter.setTransform(view.imageToView(size()));
+    // Unsmoothed: a binned or scaled frame shows its coarse pixels, and each window pixel shows
+    // the image pixel that viewToImage names.
+    painter.drawImage(QRectF(QPointF(0, 0), QSizeF(view.imageSize)), shownFrame());
+    paintRectangle(painter);
+    painter.resetTransform();
+    paintOverlay(painter);
+}
+
+void HST_DocumentView::paintRectangle(QPainter& painter)
+{
+    const std::optional<QRect> rect = m_host->rectangleFor(m_key);
+    if (!rect || rect->isEmpty())
+        return;
+    // Around the pixels the rectangle holds, a line of the same width at any zoom.
+    const QRectF outline(*rect);
+    QPen dark(QColor(0, 0, 0, 160), 3);
+    dark.setCosmetic(true);
+    painter.setPen(dark);
+    painter.drawRect(outline);
+    QPen bright(QColor(255, 214, 0), 1);
+    bright.setCosmetic(true);
+    painter.setPen(bright);
+    painter.drawRect(outline);
+}
+
+void HST_DocumentView::paintOverlay(QPainter& painter)
+{
+    // The information block lies upright over the image as the window shows it, at any turn.
+    const HST_ViewState& view = m_document->view();
+    const QRect image = view.imageToView(size())
+                            .mapRect(QRectF(QPointF(0, 0), QSizeF(view.imageSize)))
+                            .toAlignedRect()
+                            .intersected(rect());
+    m_host->paintInformation(m_key, painter, image);
+}
+
+void HST_DocumentView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_host->passMousePress(m_key, event->pos());
+}
+
+void HST_DocumentView::mouseMoveEvent(QMouseEvent* event)
+{
+    // The host's cross cursor takes the mouse for itself.
+    setCursor(m_host->crossCursor() ? Qt::CrossCursor : Qt::ArrowCursor);
+    m_host->passMouseMove(m_key, event->pos());
+}
+
+void HST_DocumentView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    m_host->passMouseRelease(m_key, event->pos());
+}
+
+void HST_DocumentView::leaveEvent(QEvent* event)
+{
+    m_host->passMouseLeave(m_key);
+    QWidget::leaveEvent(event);
+}
+
+void HST_DocumentView::keyPressEvent(QKeyEvent* event)
+{
+    m_host->passKeyPress(m_key, event);
+}
+
+void HST_DocumentView::keyReleaseEvent(QKeyEvent* event)
+{
+    m_host->passKeyRelease(m_key, event);
 }

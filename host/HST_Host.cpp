@@ -76,7 +76,7 @@ static void initResources()
 HST_Host::HST_Host(
     const HST_Scenario& scenario, HST_Recorder* recorder, const QString& prefsPath, QObject* parent)
     : QObject(parent)
-    , HST_MediaHost(recorder)
+    , HST_ViewHost(recorder, scenario.timeCode)
     , m_scenario(scenario)
     , m_recorder(recorder)
     , m_prefs(new HST_Preferences(prefsPath, recorder))
@@ -102,6 +102,7 @@ HST_Host::HST_Host(
     setDeviceCount(scenario.deviceCount);
     addDocuments(scenario.cameras, scenario.fileDocuments);
     setSaveWorld(scenario);
+    presetTools(scenario.multiLock, scenario.crossCursor);
 }
 
 void HST_Host::setTypeRecords(const QList<int>& types)
@@ -116,7 +117,8 @@ void HST_Host::setTypeRecords(const QList<int>& types)
 bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
 {
     for (const char* fixed : { "visa", "generator", "faults", "exportSupportFile", "versionText",
-             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry", "writer" }) {
+             "defaultCameraName", "cameraNameList", "deviceCount", "saveRegistry", "writer",
+             "timeCode" }) {
         if (world.contains(QLatin1String(fixed))) {
             error = QStringLiteral("world: \"%1\" can't change while the host runs").arg(fixed);
             return false;
@@ -143,6 +145,9 @@ bool HST_Host::changeWorld(const QJsonObject& world, QString& error)
     }
     if (has("recordingStatus"))
         setRecordingStatus(part.recordingStatus);
+    if (has("multiLock") || has("crossCursor"))
+        presetTools(has("multiLock") ? part.multiLock : multiLock(),
+            has("crossCursor") ? part.crossCursor : crossCursor());
     if (has("hubs")) {
         // A hub the plug-in still points to stays alive.
         m_retiredHubs.push_back(std::move(m_hubs));

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/HST_MediaHost.h"
 #include "host/HST_SaveRegistry.h"
 #include "host/HST_Scenario.h"
+#include "host/HST_ViewHost.h"
 #include "plugin/APP_CameraTypeRecord.h"
 
 #include <QMessageBox>
@@ -22,10 +22,11 @@ class QTranslator;
 
 // The reference host: APP_Host over the simulated cameras, documents and hubs of a scenario.
 // Messages are real message boxes, preferences an INI file, and every call the plug-in makes
-// that a test may want to see is recorded. The documents are in HST_DocumentHost, the status
-// queries in HST_StatusHost, removable media and saving in HST_MediaHost, the operations the
+// that a test may want to see is recorded. The documents are in HST_DocumentHost, their windows
+// as plug-ins meet them in HST_ViewHost, the status queries in HST_StatusHost, removable media
+// and saving in HST_MediaHost, the information block in HST_InfoHost, the operations the
 // simulation doesn't model in HST_NeutralHost.
-class HST_Host : public QObject, public HST_MediaHost
+class HST_Host : public QObject, public HST_ViewHost
 {
     Q_OBJECT
 
@@ -254,6 +255,11 @@ public:
 protected:
     void hostCall(const char* operation) override;
     void hostStateChanged() override { emit stateChanged(); }
+    int informationMode() const override { return m_mode; }
+    QString informationText(const QString& sourceText) const override
+    {
+        return translatedText(sourceText);
+    }
 
 private:
     void setTypeRecords(const QList<int>& types);

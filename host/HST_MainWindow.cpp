@@ -9,6 +9,8 @@
 #include "host/HST_PageMenus.h"
 #include "host/HST_PagePanel.h"
 #include "host/HST_Recorder.h"
+#include "host/HST_ToolPages.h"
+#include "host/HST_ViewMenu.h"
 #include "host/HST_SelectBoxHost.h"
 #include "plugin/PLG_Interface.h"
 #include "plugin/SharedKeys.h"
@@ -39,6 +41,7 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     , m_documentArea(new HST_DocumentArea(host, this))
     , m_documentTable(new QTableWidget(0, 7, this))
     , m_opener(new HST_DialogOpener(host, this))
+    , m_toolPages(new HST_ToolPages(host, this))
 {
     setObjectName(QStringLiteral("host_mainWindow"));
     setWindowTitle(QStringLiteral("tarvix4host"));
@@ -146,6 +149,8 @@ void HST_MainWindow::buildMenus()
         m_host->recorder()->record(QStringLiteral("fullScreen"), { { QStringLiteral("on"), on } });
         emit m_host->stateChanged();
     });
+    m_viewMenu->addSeparator();
+    new HST_ViewMenu(m_host, m_viewMenu);
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(
         findChild<QDockWidget*>(QStringLiteral("host_documentsPanel"))->toggleViewAction());
@@ -308,6 +313,7 @@ void HST_MainWindow::runPlugin(PLG_Interface* plugin, const QString& name)
     --m_running;
     recorder->record(QStringLiteral("execute"),
         { { QStringLiteral("name"), name }, { QStringLiteral("phase"), "end" } });
+    m_toolPages->executed(plugin);
     emit executeFinished(name);
 }
 

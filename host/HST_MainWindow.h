@@ -9,6 +9,7 @@
 class HST_DialogOpener;
 class HST_DocumentArea;
 class HST_Host;
+class HST_ToolPages;
 class PLG_Interface;
 class QAction;
 class QComboBox;
@@ -38,6 +39,7 @@ public:
     bool isPluginRunning() const { return m_running > 0; }
     HST_DialogOpener* opener() const { return m_opener; }
     HST_DocumentArea* documentArea() const { return m_documentArea; }
+    HST_ToolPages* toolPages() const { return m_toolPages; }
 
 signals:
     void executeFinished(const QString& name);
@@ -67,6 +69,7 @@ private:
     QMenu* m_fileMenu = nullptr;
     // The file dialogs' entries go in front of it.
     QAction* m_fileDialogPlace = nullptr;
+    HST_ToolPages* m_toolPages;
     QMenu* m_viewMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QList<QAction*> m_pageActions;

@@ -33,26 +33,12 @@ public:
         hostCall("mdiWidget");
         return nullptr;
     }
-    QString& itemLabel(QString& out, const QString&) override
-    {
-        hostCall("itemLabel");
-        out.clear();
-        return out;
-    }
     void refreshQuickTools() override { hostCall("refreshQuickTools"); }
-    bool isDisplayInfoShowing() override
-    {
-        hostCall("isDisplayInfoShowing");
-        return false;
-    }
-    void setDisplayInfoShowing(bool) override { hostCall("setDisplayInfoShowing"); }
     bool appliesTo(const QString&, DOC_Interface*, int = 0) override
     {
         hostCall("appliesTo");
         return false;
     }
-    void getTimeCodeSettings(APP_TimeCodeRecord*) override { hostCall("getTimeCodeSettings"); }
-    void setTimeCodeSettings(APP_TimeCodeRecord*) override { hostCall("setTimeCodeSettings"); }
     bool isShuttingDown() override
     {
         hostCall("isShuttingDown");
@@ -69,7 +55,6 @@ public:
         hostCall("isCameraNameListEnabled");
         return false;
     }
-    void setOverlayFont(const QString&, int) override { hostCall("setOverlayFont"); }
     bool hasRestoredPrefs() override
     {
         hostCall("hasRestoredPrefs");

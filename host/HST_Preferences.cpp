@@ -1,5 +1,6 @@
 #include "host/HST_Preferences.h"
 
+#include "host/HST_InfoDefaults.h"
 #include "host/HST_Recorder.h"
 
 #include <QDir>
@@ -45,7 +46,7 @@ QVariant HST_Preferences::hostDefault(const QString& key)
         if (key == QLatin1String(entry.key))
             return entry.value;
     }
-    return QVariant();
+    return HST_InfoDefaults::value(key);
 }
 
 QVariant HST_Preferences::value(const QString& key, const QVariant& defaultValue) const

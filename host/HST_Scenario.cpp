@@ -2,6 +2,7 @@
 
 #include "host/HST_Json.h"
 #include "host/HST_MediaScenario.h"
+#include "host/HST_TimeCodeScenario.h"
 #include "plugin/SharedKeys.h"
 
 #include <QFile>
@@ -229,7 +230,18 @@ QList<HST_PartitionSpec> readPartitions(const QJsonObject& parent, const QString
 QStringList documentKeys()
 {
     return { "customData", "comment", "partitions", "temporary", "savable", "multiSkipA",
-        "multiSkipB" };
+        "multiSkipB", "view" };
+}
+
+void readView(const QJsonObject& object, const QString& path, HST_ViewState& view)
+{
+    if (!object.contains(QLatin1String("view")))
+        return;
+    QString key;
+    QString problem;
+    if (!HST_ViewState::read(readObject(object, path, QStringLiteral("view")),
+            join(path, QStringLiteral("view")), view, key, problem))
+        refuse(key, problem);
 }
 
 // Keys left out keep what document holds.
@@ -244,15 +256,18 @@ void readDocument(const QJsonObject& object, const QString& path, HST_DocumentSp
     document.savable = readBool(object, path, QStringLiteral("savable"), document.savable);
     document.multiSkipA = readBool(object, path, QStringLiteral("multiSkipA"), false);
     document.multiSkipB = readBool(object, path, QStringLiteral("multiSkipB"), false);
+    readView(object, path, document.view);
 }
 
-HST_DocumentSpec readFile(const QJsonValue& value, const QString& name, int index)
+HST_DocumentSpec readFile(
+    const QJsonValue& value, const QString& name, int index, const HST_ViewState& view)
 {
     if (!value.isObject())
         wrongType(name, "an object", value);
     const QJsonObject object = value.toObject();
     checkKeys(object, name, documentKeys() + QStringList { "name", "path" });
     HST_DocumentSpec document = HST_Scenario::fileDocument(index);
+    document.view = view;
     readDocument(object, name, document);
     document.baseName = readString(object, name, QStringLiteral("name"), document.baseName);
     document.filePath = readString(object, name, QStringLiteral("path"), document.filePath);
@@ -291,7 +306,8 @@ HST_Outcome readOutcome(const QJsonObject& parent, const QString& path, const QS
     return outcome;
 }
 
-HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int index)
+HST_CameraSpec readCamera(
+    const QJsonValue& value, const QString& name, int index, const HST_ViewState& view)
 {
     if (!value.isObject())
         wrongType(name, "an object", value);
@@ -307,6 +323,7 @@ HST_CameraSpec readCamera(const QJsonValue& value, const QString& name, int inde
                 "media" }
             + HST_CameraSetup::keys());
     HST_CameraSpec camera;
+    camera.document.view = view;
     camera.name = readString(
         object, name, QStringLiteral("name"), QStringLiteral("Camera %1").arg(index + 1));
     camera.ip = readString(
@@ -454,7 +471,7 @@ QString derivedStatus(const QString& name)
         { &STATUS_IS_OTHER_PLUGIN_OPEN, "true while a plug-in's window is open" },
         { &STATUS_IS_LIVE_NO_AUTO_DOWNLOAD_SETTING,
             "follows the preference \"recording/AutoDownload\" and \"mode\"" },
-        { &STATUS_IS_MOUSE_DRAGGING, "the host has no plug-in page a mouse could drag on" },
+        { &STATUS_IS_MOUSE_DRAGGING, "follows a drag on a document while a plug-in's page shows" },
         { &STATUS_IS_ROSTRA_LOCK_DEVICE,
             "follows \"IsRostra\" and the current document's camera key \"rostraLocked\"" },
     };
@@ -487,8 +504,13 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
         { "mode", "syncCapableTypes", "cameras", "files", "hubs", "prefs", "applySync", "visa",
             "generator", "faults", "versionText", "defaultCameraName", "cameraNameList",
             "deviceCount", "saveRegistry", "status", "recordingStatus", "exportSupportFile",
-            "loopSave", "writer" });
+            "loopSave", "writer", "timeCode", "view", "multiLock", "crossCursor" });
     out.mode = readInt(root, QString(), QStringLiteral("mode"), 0, 0, 2);
+    // Every document's view, unless its camera or file says otherwise.
+    HST_ViewState view;
+    readView(root, QString(), view);
+    out.multiLock = readBool(root, QString(), QStringLiteral("multiLock"), false);
+    out.crossCursor = readBool(root, QString(), QStringLiteral("crossCursor"), false);
     if (root.contains(QLatin1String("syncCapableTypes")))
         out.syncCapableTypes = readIntList(root, QString(), QStringLiteral("syncCapableTypes"));
     if (root.contains(QLatin1String("cameras"))) {
@@ -496,7 +518,7 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
         QSet<QString> seen;
         for (int i = 0; i < cameras.size(); ++i) {
             const QString name = QStringLiteral("cameras[%1]").arg(i);
-            const HST_CameraSpec camera = readCamera(cameras.at(i), name, i);
+            const HST_CameraSpec camera = readCamera(cameras.at(i), name, i, view);
             if (seen.contains(camera.ip))
                 refuse(name + QStringLiteral(".ip"),
                     QStringLiteral("duplicate camera address %1").arg(camera.ip));
@@ -512,12 +534,13 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
         if (files.size() > 64)
             refuse(QStringLiteral("files"), QStringLiteral("more than 64 files"));
         for (int i = 0; i < files.size(); ++i)
-            out.fileDocuments.append(readFile(files.at(i), QStringLiteral("files[%1]").arg(i), i));
+            out.fileDocuments.append(
+                readFile(files.at(i), QStringLiteral("files[%1]").arg(i), i, view));
         out.files = files.size();
     } else {
         out.files = readInt(root, QString(), QStringLiteral("files"), 0, 0, 64);
         for (int i = 0; i < out.files; ++i)
-            out.fileDocuments.append(readFile(QJsonObject(), QString(), i));
+            out.fileDocuments.append(readFile(QJsonObject(), QString(), i, view));
     }
     if (root.contains(QLatin1String("hubs"))) {
         const QJsonArray hubs = readArray(root, QString(), QStringLiteral("hubs"));
@@ -563,6 +586,13 @@ void readScenario(const QJsonObject& root, HST_Scenario& out)
     if (root.contains(QLatin1String("status")))
         readStatus(root, out);
     out.recordingStatus = readInt(root, QString(), QStringLiteral("recordingStatus"), 0, 0, 4);
+    if (root.contains(QLatin1String("timeCode"))) {
+        QString key;
+        QString problem;
+        if (!HST_TimeCodeScenario::read(
+                root.value(QLatin1String("timeCode")), out.timeCode, key, problem))
+            refuse(key, problem);
+    }
     out.visa = readBool(root, QString(), QStringLiteral("visa"), false);
     if (root.contains(QLatin1String("generator"))) {
         const QString path = QStringLiteral("generator");

@@ -3,6 +3,8 @@
 #include "host/HST_CameraSetup.h"
 #include "host/HST_Fault.h"
 #include "host/HST_MediaSpec.h"
+#include "plugin/APP_TimeCodeRecord.h"
+#include "host/HST_ViewState.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -54,6 +56,8 @@ struct HST_DocumentSpec
     bool multiSkipB = false;
     // The recording on a medium the document was opened from.
     HST_MediaLink media;
+    // How its window shows it, and its image's sizes.
+    HST_ViewState view;
 };
 
 struct HST_CameraSpec
@@ -153,6 +157,11 @@ public:
     bool loopSaveMode = false;
     bool loopSaveActive = false;
     HST_WriterSpec writer;
+    // The time code record the host starts with (HST_TimeCodeScenario).
+    APP_TimeCodeRecord timeCode;
+    // The host's multi-lock and its cross cursor tool, as the View menu toggles them.
+    bool multiLock = false;
+    bool crossCursor = false;
     // Where the scenario came from, for messages.
     QString source;
 

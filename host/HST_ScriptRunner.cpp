@@ -1,5 +1,6 @@
 #include "host/HST_ScriptRunner.h"
 
+#include "host/HST_InputSteps.h"
 #include "host/HST_Json.h"
 #include "host/HST_Recorder.h"
 #include "host/HST_ScriptTargets.h"
@@ -106,7 +107,14 @@ bool HST_ScriptRunner::parse(
         else if (kind == QLatin1String("set"))
             ok = value.isArray() && value.toArray().size() == 2 && value.toArray().at(0).isString()
                 && !value.toArray().at(1).isArray() && !value.toArray().at(1).isObject();
-        else {
+        else if (HST_InputSteps::handles(kind)) {
+            QString problem;
+            if (!HST_InputSteps::validate(kind, value, problem)) {
+                error = where + QStringLiteral(": \"%1\": %2").arg(kind, problem);
+                return false;
+            }
+            ok = true;
+        } else {
             error = where + QStringLiteral(": unknown step \"%1\"").arg(kind);
             return false;
         }
@@ -220,6 +228,8 @@ HST_ScriptRunner::Result HST_ScriptRunner::act(QJsonObject step, QWidget* window
         return changeWorld(value.toObject(), window);
     if (kind == QLatin1String("visit"))
         return visit(value.toArray(), window);
+    if (HST_InputSteps::handles(kind))
+        return input(kind, value, window);
     if (!window)
         return Result::Waiting;
     if (kind == QLatin1String("close")) {
@@ -390,6 +400,25 @@ HST_ScriptRunner::Result HST_ScriptRunner::changeWorld(const QJsonObject& world,
         fail(error);
         return Result::Waiting;
     }
+    return Result::Done;
+}
+
+HST_ScriptRunner::Result HST_ScriptRunner::input(
+    const QString& kind, const QJsonValue& value, QWidget* window)
+{
+    // The document windows are out of reach while a modal window is up.
+    if (window || !m_host.documentView || !m_host.currentKey)
+        return Result::Waiting;
+    const int key = HST_InputSteps::documentOf(kind, value, m_host.currentKey());
+    QPointer<QWidget> view(m_host.documentView(key));
+    if (!view || !view->isVisible())
+        return Result::Waiting;
+    HST_Recorder* recorder = m_recorder;
+    const auto rectangle = m_host.rectangle;
+    postAction([kind, value, view, key, recorder, rectangle] {
+        if (view)
+            HST_InputSteps::play(kind, value, view, key, recorder, rectangle);
+    });
     return Result::Done;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QJsonArray>
+#include <QJsonValue>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -22,14 +23,20 @@ struct HST_ScriptHost
     std::function<void(const QString& name)> press;
     // Applies part of a scenario to the running host; false with error set when refused.
     std::function<bool(const QJsonObject& world, QString& error)> changeWorld;
+    // The window of a document, null when it has none; the current document's key.
+    std::function<QWidget*(int key)> documentView;
+    std::function<int()> currentKey;
+    // What the record says of the rectangle on a document after a mouse or key step.
+    std::function<QJsonValue(int key)> rectangle;
 };
 
 // Plays a list of steps against the application's active modal window, as a user would:
 // {"click": TEXT-OR-OBJECTNAME}, {"set": [OBJECTNAME, VALUE]}, {"js": CODE},
 // {"screenshot": FILE}, {"wait": MS}, {"visit": [OPENER, CLOSER]}, {"close": null}, {"file": PATH}
-// (the active file dialog); against the main window: {"menu": "Menu/Entry"}; and against the host
-// while no plug-in runs: {"press": NAME}, {"open": NAME}, {"world": SCENARIO-PART}. A step with
-// "window": NAME acts in that non-modal window or dock panel instead. README lists them.
+// (the active file dialog); against the main window: {"menu": "Menu/Entry"}, and the mouse and
+// keys on a document's window (HST_InputSteps); and against the host while no plug-in runs:
+// {"press": NAME}, {"open": NAME}, {"world": SCENARIO-PART}. A step with "window": NAME acts in
+// that non-modal window or dock panel instead. README lists them.
 //
 // A modal dialog blocks whoever opened it, so the steps are driven by a polling timer, and
 // every action is posted rather than done in the timer's slot: an action that opens another
@@ -87,6 +94,7 @@ private:
     Result pressStep(const QString& name, QWidget* window, int maxPresses);
     Result visit(const QJsonArray& targets, QWidget* window);
     Result changeWorld(const QJsonObject& world, QWidget* window);
+    Result input(const QString& kind, const QJsonValue& value, QWidget* window);
     void answer(QMessageBox* box);
     // Posts an action of the current step.
     template <typename Action> void postAction(Action action);

@@ -153,6 +153,8 @@ public:
 protected:
     // The host's state changed in a way its windows show.
     virtual void hostStateChanged() { }
+    // Undo macros open now, nested ones counted.
+    int macroDepth() const { return m_macroDepth; }
 
 private:
     bool query(const char* operation, const QString& name);

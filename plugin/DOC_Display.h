@@ -17,4 +17,6 @@ public:
     virtual bool isMirroredVertically() = 0;
     virtual float zoomFactor(bool current) = 0;
     virtual int binningExponent() = 0;
+    // Reads the logo of the information block again, from the path the preferences hold now.
+    virtual void reloadLogo() = 0;
 };

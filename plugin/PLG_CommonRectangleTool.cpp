@@ -120,17 +120,13 @@ void PLG_Common::mouseReleased(const QPoint& pos, int docKey)
         if (!forDocument && !m_mouseDown)
             return;
         const bool wasDown = m_mouseDown;
-        const bool wasDragging = m_dragZone != PLG_RectangleGeometry::Outside;
         m_mouseDown = false;
         m_dragZone = PLG_RectangleGeometry::Outside;
-        DOC_Interface* doc = forDocument ? m_host->document(docKey, true) : nullptr;
-        const bool toolApplies = rectangleToolApplies(doc);
-        // The host calls every plug-in: only the one whose tool set the cursor gives it back.
-        if (toolApplies || wasDragging)
-            QGuiApplication::restoreOverrideCursor();
+        QGuiApplication::restoreOverrideCursor();
         if (wasDown)
             m_host->endMacro();
-        if (toolApplies && applyOnChange())
+        DOC_Interface* doc = forDocument ? m_host->document(docKey, true) : nullptr;
+        if (doc && applyOnChange())
             sendChangeNotice(doc);
     });
 }

@@ -1,5 +1,12 @@
 #include "plugin/PLG_PageRegistry.h"
 
+#include "dialogs/GUI_CommentDialog.h"
+#include "dialogs/GUI_EditInfoDialog.h"
+#include "dialogs/GUI_FrameFormatDialog.h"
+#include "dialogs/GUI_RecordRateFormatDialog.h"
+#include "dialogs/GUI_RectimeFormatDialog.h"
+#include "dialogs/GUI_ShutterSpeedFormatDialog.h"
+#include "dialogs/GUI_TimeCodeCustomDialog.h"
 #include "generator/DOC_VIGen.h"
 #include "generator/GUI_SyncSignalGeneratorConnect.h"
 #include "plugin/APP_Host.h"
@@ -11,6 +18,8 @@
 #include "util/ScopeExit.h"
 #include "web/JS_Mediator_Page.h"
 
+#include <QDateTime>
+#include <QDebug>
 #include <QDialog>
 #include <QPointer>
 
@@ -36,6 +45,65 @@ int openGeneratorConnect(const PLG_DialogContext& context)
 JS_Mediator* makeHostStatusMediator(const PLG_DialogContext& context)
 {
     return new JS_Mediator_Page(context.host, QStringLiteral("hoststatus"));
+}
+
+// The information block's dialogs.
+
+// The current document first, then the other selected ones.
+QList<int> currentAndSelected(const PLG_DialogContext& context)
+{
+    QList<int> keys;
+    if (context.currentKey != INVALID_DOCKEY)
+        keys.append(context.currentKey);
+    for (int key : context.selectedKeys) {
+        if (!keys.contains(key))
+            keys.append(key);
+    }
+    return keys;
+}
+
+int openTimeCode(const PLG_DialogContext& context)
+{
+    return PLG_PageRegistry::exec(new GUI_TimeCodeCustomDialog(context.host, context.parent));
+}
+
+// arg: the mode of the save form's owner (1 save, 6 convert, 7 snapshot, 16 report); none: 1.
+int openEditInfo(const PLG_DialogContext& context, bool isSaveView)
+{
+    int mode = 1;
+    if (isSaveView && !context.arg.isEmpty()) {
+        bool ok = false;
+        mode = context.arg.toInt(&ok);
+        if (!ok) {
+            qCritical().noquote()
+                << QStringLiteral("saveinfoview: \"%1\" is no mode").arg(context.arg);
+            return -1;
+        }
+    }
+    return PLG_PageRegistry::exec(new GUI_EditInfoDialog(context.host, mode, isSaveView,
+        context.host->document(context.currentKey), -1, currentAndSelected(context),
+        QDateTime::currentDateTime()));
+}
+
+int openScreenInfo(const PLG_DialogContext& context)
+{
+    return openEditInfo(context, false);
+}
+
+int openSaveInfo(const PLG_DialogContext& context)
+{
+    return openEditInfo(context, true);
+}
+
+int openComment(const PLG_DialogContext& context)
+{
+    return PLG_PageRegistry::exec(
+        new GUI_CommentDialog(context.host, context.host->document(context.currentKey)));
+}
+
+template <typename Dialog> int openFormat(const PLG_DialogContext& context)
+{
+    return PLG_PageRegistry::exec(new Dialog(context.host, context.parent));
 }
 
 const PLG_PageEntry pageTable[] = {
@@ -66,6 +134,21 @@ const PLG_PageEntry pageTable[] = {
         nullptr, nullptr },
     { "convertparametereditdialog", PLG_PageKind::Dialog, "Saved after the automatic conversion",
         &SavePages::openConvertParameterEditDialog, nullptr, nullptr },
+    // The information block.
+    { "editinfo", PLG_PageKind::Dialog, "Information display", &openScreenInfo, nullptr, nullptr },
+    { "saveinfoview", PLG_PageKind::Dialog, "Information on saved images", &openSaveInfo, nullptr,
+        nullptr },
+    { "prefs_customize_timecode", PLG_PageKind::Dialog, "Current Time Setting", &openTimeCode,
+        nullptr, nullptr },
+    { "commentview", PLG_PageKind::Dialog, "Comment", &openComment, nullptr, nullptr },
+    { "shutterspeed_format_dialog", PLG_PageKind::Dialog, "Shutter speed disp",
+        &openFormat<GUI_ShutterSpeedFormatDialog>, nullptr, nullptr },
+    { "recordrate_format_dialog", PLG_PageKind::Dialog, "recordrate disp",
+        &openFormat<GUI_RecordRateFormatDialog>, nullptr, nullptr },
+    { "frame_format_dialog", PLG_PageKind::Dialog, "frame disp", &openFormat<GUI_FrameFormatDialog>,
+        nullptr, nullptr },
+    { "rectime_format_dialog", PLG_PageKind::Dialog, "Recording time disp",
+        &openFormat<GUI_RectimeFormatDialog>, nullptr, nullptr },
     // Camera settings files and presets, the device panels and the select box.
     { "camerasettings", PLG_PageKind::Dialog, "Save camera settings",
         &PLG_CameraDevicePages::openCameraSettings, nullptr, nullptr },

@@ -10,6 +10,9 @@ struct PLG_RectangleConstraints
 {
     // The document image; the rectangle never leaves it.
     QSize image;
+    // The camera's whole image, on whose middle the centre locks hold the rectangle; empty:
+    // the document image.
+    QSize wholeImage;
     QPoint positionStep = QPoint(1, 1);
     QSize sizeStep = QSize(1, 1);
     // Negative in either value: no limit.
@@ -22,4 +25,5 @@ struct PLG_RectangleConstraints
     bool centerY = false;
 
     bool hasMaxSize() const { return maxSize.width() >= 0 && maxSize.height() >= 0; }
+    QSize lockImage() const { return wholeImage.isEmpty() ? image : wholeImage; }
 };

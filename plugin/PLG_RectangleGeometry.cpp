@@ -239,26 +239,26 @@ QRect PLG_RectangleGeometry::dragged(const QRect& current, int zone, const QRect
     if (zone == Inside) {
         rect = downRect.translated(pos - downPos);
     } else if (zone >= TopEdge && zone <= BottomRightCorner) {
-        const int lastX = constraints.image.width() - 1;
-        const int lastY = constraints.image.height() - 1;
+        const int lockX = constraints.lockImage().width() - 1;
+        const int lockY = constraints.lockImage().height() - 1;
         QRect moved = current;
         if (movesTop(zone)) {
             moved.setTop(pos.y());
             if (constraints.centerY)
-                moved.setBottom(lastY - pos.y());
+                moved.setBottom(lockY - pos.y());
         } else if (movesBottom(zone)) {
             moved.setBottom(pos.y());
             if (constraints.centerY)
-                moved.setTop(lastY - pos.y());
+                moved.setTop(lockY - pos.y());
         }
         if (movesLeft(zone)) {
             moved.setLeft(pos.x());
             if (constraints.centerX)
-                moved.setRight(lastX - pos.x());
+                moved.setRight(lockX - pos.x());
         } else if (movesRight(zone)) {
             moved.setRight(pos.x());
             if (constraints.centerX)
-                moved.setLeft(lastX - pos.x());
+                moved.setLeft(lockX - pos.x());
         }
         // An edge stops short of the minimum size; a corner moves only when both of its may.
         const bool tallEnough = !(movesTop(zone) || movesBottom(zone))
@@ -324,10 +324,11 @@ QRect PLG_RectangleGeometry::constrained(QRect rect, int zone, double aspect, co
     }
 
     if (constraints.centerX || constraints.centerY) {
+        const QSize whole = constraints.lockImage();
         if (constraints.centerX)
-            rect.moveLeft((image.width() - rect.width()) / 2);
+            rect.moveLeft((whole.width() - rect.width()) / 2);
         if (constraints.centerY)
-            rect.moveTop((image.height() - rect.height()) / 2);
+            rect.moveTop((whole.height() - rect.height()) / 2);
         rect = confined(rect, constraints);
     }
     return rect;
@@ -370,6 +371,10 @@ int PLG_RectangleGeometry::translatedKey(
 std::optional<QRect> PLG_RectangleGeometry::keyed(const QRect& current, int key, bool shift,
     bool control, double aspect, const PLG_RectangleConstraints& constraints)
 {
+    // The opposite edge of a centre lock mirrors about the whole image; the border is the
+    // document image's.
+    const int lockX = constraints.lockImage().width() - 1;
+    const int lockY = constraints.lockImage().height() - 1;
     const int lastX = constraints.image.width() - 1;
     const int lastY = constraints.image.height() - 1;
     QRect rect = current;
@@ -386,25 +391,25 @@ std::optional<QRect> PLG_RectangleGeometry::keyed(const QRect& current, int key,
             zone = LeftEdge;
             rect.setLeft(rect.left() - outward * stepX);
             if (constraints.centerX)
-                rect.setRight(lastX - rect.left());
+                rect.setRight(lockX - rect.left());
             break;
         case Qt::Key_Right:
             zone = RightEdge;
             rect.setRight(rect.right() + outward * stepX);
             if (constraints.centerX)
-                rect.setLeft(lastX - rect.right());
+                rect.setLeft(lockX - rect.right());
             break;
         case Qt::Key_Up:
             zone = TopEdge;
             rect.setTop(rect.top() - outward * stepY);
             if (constraints.centerY)
-                rect.setBottom(lastY - rect.top());
+                rect.setBottom(lockY - rect.top());
             break;
         case Qt::Key_Down:
             zone = BottomEdge;
             rect.setBottom(rect.bottom() + outward * stepY);
             if (constraints.centerY)
-                rect.setTop(lastY - rect.bottom());
+                rect.setTop(lockY - rect.bottom());
             break;
         default:
             return std::nullopt;

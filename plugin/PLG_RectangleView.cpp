@@ -29,6 +29,7 @@ int PLG_RectangleView::zoneAt(const QPoint& imagePos, const QRect& rect) const
 PLG_RectangleConstraints PLG_RectangleView::constraints(PLG_RectangleConstraints settings) const
 {
     m_doc->imageSize(settings.image);
+    m_doc->fullImageSize(settings.wholeImage);
     const int binning = m_host->appliesTo(FEATURE_BINNING, m_doc) ? m_doc->binningExponent() : 0;
     const int scale = m_doc->hasScaleFactor() ? m_doc->scaleFactor() : 1;
     return PLG_RectangleGeometry::scaled(settings, binning, scale, m_doc->isRotatedQuarter());

@@ -1,7 +1,10 @@
 #include "save/JS_Mediator_FileDialog.h"
 
+#include "dialogs/GUI_EditInfoDialog.h"
+#include "dialogs/GUI_TimeCodeCustomDialog.h"
 #include "plugin/APP_Host.h"
 #include "plugin/DOC_Interface.h"
+#include "plugin/PLG_PageRegistry.h"
 #include "plugin/SharedKeys.h"
 #include "save/GUI_ConvertParameterEditDialog.h"
 #include "util/APP_Exception.h"
@@ -386,9 +389,10 @@ bool JS_Mediator_FileDialog::openCustumTimeCodeDialog()
 {
     SYNC_TRACE(QStringLiteral("JS_Mediator_FileDialog::openCustumTimeCodeDialog"), QString());
     return UTL_Barrier::reported(m_host, false, [this] {
-        if (!refusedWhileConverting())
-            dialogNotAvailable();
-        return false;
+        if (refusedWhileConverting())
+            return false;
+        return PLG_PageRegistry::exec(new GUI_TimeCodeCustomDialog(m_host, m_host->getMainWindow()))
+            == QDialog::Accepted;
     });
 }
 
@@ -396,10 +400,22 @@ bool JS_Mediator_FileDialog::saveInfoView(const QVariantList& targets)
 {
     SYNC_TRACE(
         QStringLiteral("JS_Mediator_FileDialog::saveInfoView"), listParameter("targets", targets));
-    return UTL_Barrier::reported(m_host, false, [this] {
-        if (!refusedWhileConverting())
-            dialogNotAvailable();
-        return false;
+    return UTL_Barrier::reported(m_host, false, [&] {
+        if (refusedWhileConverting())
+            return false;
+        // The selected document leads: its partition is the one the preview shows.
+        DOC_Interface* selected = m_host->document(m_targets.selectDocKey());
+        QList<int> keys;
+        if (selected)
+            keys.append(m_targets.selectDocKey());
+        for (const QVariant& target : targets) {
+            const int key = target.toInt();
+            if (!keys.contains(key) && m_host->document(key))
+                keys.append(key);
+        }
+        return PLG_PageRegistry::exec(new GUI_EditInfoDialog(m_host, m_kind.mode(), true, selected,
+                   selected ? m_targets.selectPartitionNo() : -1, keys, m_dateTime))
+            == QDialog::Accepted;
     });
 }
 

@@ -12,7 +12,7 @@ set -u
 ROOT="$(cd "$(dirname "$0")/.." && pwd)"
 SECONDS_EACH="${1:-60}"
 BUILD="${SYNC_FUZZ_BUILD:-$ROOT/build-fuzz}"
-TARGETS="${SYNC_FUZZ_TARGETS:-fuzz_visa_reply fuzz_visa_session fuzz_sim_request fuzz_text_helpers fuzz_scenario fuzz_custom_info fuzz_camera_names fuzz_save_lists}"
+TARGETS="${SYNC_FUZZ_TARGETS:-fuzz_visa_reply fuzz_visa_session fuzz_sim_request fuzz_text_helpers fuzz_scenario fuzz_custom_info fuzz_camera_names fuzz_save_lists fuzz_display_list fuzz_input_steps}"
 JOBS="${SYNC_FUZZ_PARALLEL:-2}"
 
 if ! [[ "$SECONDS_EACH" =~ ^[0-9]+$ ]] || [ "$SECONDS_EACH" -lt 1 ]; then
@@ -43,7 +43,7 @@ mkdir -p "$RUN"
 # speed, so only the targets that go through such a leak get it.
 # The options are our own, not inherited: a caller's ASAN_OPTIONS may well switch leaks off.
 export LSAN_OPTIONS="suppressions=$ROOT/fuzz/lsan.supp:print_suppressions=0"
-SLOW_UNWIND_TARGETS="fuzz_scenario"
+SLOW_UNWIND_TARGETS="fuzz_scenario fuzz_input_steps"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 
 # Runs one target; writes its verdict to $RUN/<target>.result.

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Regenerates the README's screenshots of the sync dialog and the common dialogs under Xvfb
-# (after tools/build.sh).
+# Regenerates the README's screenshots of the sync dialog, the common dialogs and the region of
+# interest under Xvfb (after tools/build.sh).
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 host="$root/build/host/tarvix4host"
@@ -37,6 +37,17 @@ shoot_filedialog() {
     xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
         --open "$2" --script "$prefs.script" --quit > /dev/null
 }
+# A modal dialog of the plug-in file opened by name: scenario, page, picture, then the main window
+# after the page's Cancel (optional).
+shoot_info_dialog() {
+    local prefs; prefs="$(mktemp -d)/prefs.ini"
+    local after=""
+    if [ -n "${4:-}" ]; then after=", {\"wait\": 300}, {\"screenshot\": \"$4\"}"; fi
+    printf '[{"wait": 1000}, {"screenshot": "%s"}, {"js": "$(\x27.hostpage-cancel\x27).click(); 0"}%s]' \
+        "$3" "$after" > "$prefs.script"
+    xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
+        --open "$2" --script "$prefs.script" --quit > /dev/null
+}
 shoot "$root/tools/screenshots/external.json" "$out/external-no-distributor.png"
 shoot "$root/tools/screenshots/chain-nrack.json" "$out/chain-nrack.png"
 shoot "$root/host/scenarios/hubs.json" "$out/link-core-hubs.png"
@@ -57,4 +68,21 @@ shoot_filedialog "$root/host/scenarios/media.json" fileopendialog "$out/open-dia
 shoot_filedialog "$root/host/scenarios/save.json" addnumberdialog:2 "$out/number-dialog.png"
 shoot_filedialog "$root/host/scenarios/save.json" convertparametereditdialog \
     "$out/conversion-settings.png"
+info="$root/host/scenarios/information.json"
+shoot_info_dialog "$info" editinfo "$out/edit-info.png" "$out/information-overlay.png"
+shoot_info_dialog "$info" saveinfoview "$out/save-info-view.png"
+shoot_info_dialog "$info" prefs_customize_timecode "$out/time-code.png"
+shoot_info_dialog "$info" commentview "$out/comments.png"
+shoot_info_dialog "$info" shutterspeed_format_dialog "$out/format-shutter-speed.png"
+shoot_info_dialog "$info" recordrate_format_dialog "$out/format-record-rate.png"
+shoot_info_dialog "$info" frame_format_dialog "$out/format-frame.png"
+shoot_info_dialog "$info" rectime_format_dialog "$out/format-recording-time.png"
+# The region of interest's page and its rectangle on a document, dragged by its corner.
+roi_prefs="$(mktemp -d)/prefs.ini"
+printf '[{"press": "roi"}, {"wait": 500}, {"mouse": {"document": 1, "press": [10, 10]}},
+  {"mouse": {"document": 1, "release": [10, 10]}},
+  {"drag": {"document": 1, "from": [215, 161], "to": [250, 190], "steps": 5}},
+  {"wait": 300}, {"screenshot": "%s"}]' "$out/roi-rectangle.png" > "$roi_prefs.script"
+xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$root/host/scenarios/roi.json" \
+    --prefs "$roi_prefs" --script "$roi_prefs.script" --quit > /dev/null
 ls -1 "$out"

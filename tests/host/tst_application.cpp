@@ -3,6 +3,7 @@
 #include "host/HST_MainWindow.h"
 #include "host/HST_Recorder.h"
 #include "plugin/DOC_LinkCore.h"
+#include "plugin/PLG_Interface.h"
 
 #include <QAction>
 #include <QProcess>
@@ -36,6 +37,8 @@ private slots:
     void visaOfferedAsTheScenarioSays();
     void commandLine_data();
     void commandLine();
+    void pluginFiles_data();
+    void pluginFiles();
     void mdiWidgetIsFreshForEachPage();
     void frequencyPendingUntilApplied_data();
     void frequencyPendingUntilApplied();
@@ -265,6 +268,44 @@ void tst_Application::commandLine()
             && event.value("text").toString().startsWith(QLatin1String("Because"));
     }
     QVERIFY(reported);
+}
+
+void tst_Application::pluginFiles_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("names"); // loaded, in order
+    const QString sync = QStringLiteral(SYNC_PLUGIN_FILE);
+    const QString roi = QStringLiteral(ROI_PLUGIN_FILE);
+    QTest::newRow("none given: both of the build")
+        << QStringList() << QStringList { "synccontrol", "roi" };
+    QTest::newRow("one given: that one alone")
+        << QStringList { "--plugin", roi } << QStringList { "roi" };
+    QTest::newRow("given twice: in that order") << QStringList { "--plugin", roi, "--plugin", sync }
+                                                << QStringList { "roi", "synccontrol" };
+    QTest::newRow("a list") << QStringList { "--plugins", sync + QLatin1Char(',') + roi }
+                            << QStringList { "synccontrol", "roi" };
+}
+
+void tst_Application::pluginFiles()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, names);
+    HST_Options options = this->options("{}");
+    QString error;
+    QVERIFY(HST_Application::parseArguments(
+        QStringList { QStringLiteral("tarvix4host") } + arguments, options, error));
+    options.pluginFile.clear();
+    HST_Application application(options);
+    QCOMPARE(application.start(), 0);
+    QStringList started, buttons;
+    for (const QJsonObject& event : application.recorder()->events(QStringLiteral("start")))
+        started << event.value(QStringLiteral("name")).toString();
+    for (PLG_Interface* plugin : application.plugins()) {
+        if (application.mainWindow()->pluginAction(plugin->pageName()))
+            buttons << plugin->pageName();
+    }
+    QCOMPARE(started, names);
+    QCOMPARE(buttons, names);
 }
 
 // A page deletes the widget it embedded with itself: two pages must never share one.

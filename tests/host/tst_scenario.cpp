@@ -107,6 +107,24 @@ void tst_Scenario::read_data()
     QTest::newRow("loop save given as a flag")
         << QString() << QByteArray(R"({"loopSave": true})")
         << QStringList { "\"loopSave\"", "expected an object" };
+    QTest::newRow("time code value beyond a time code")
+        << QString() << QByteArray("{\"timeCode\": {\"oneFrame\": 1e9}}")
+        << QStringList { "\"timeCode.oneFrame\"", "beyond 9.999e8" };
+    QTest::newRow("time code key the record doesn't have")
+        << QString() << QByteArray("{\"timeCode\": {\"step\": 1}}")
+        << QStringList { "\"timeCode.step\"", "unknown key" };
+    QTest::newRow("a view turned off the quarter turns")
+        << QString() << QByteArray("{\"cameras\": [{\"view\": {\"rotation\": 45}}]}")
+        << QStringList { "\"cameras[0].view.rotation\"", "not 0, 90, 180 or 270" };
+    QTest::newRow("a file's binning beyond 8 x 8")
+        << QString() << QByteArray("{\"files\": [{\"view\": {\"binning\": 4}}]}")
+        << QStringList { "\"files[0].view.binning\"", "outside 0 to 3" };
+    QTest::newRow("a whole image smaller than the image")
+        << QString()
+        << QByteArray("{\"view\": {\"imageSize\": [800, 600], \"fullImageSize\": [640, 480]}}")
+        << QStringList { "\"view.fullImageSize\"", "smaller than imageSize" };
+    QTest::newRow("a negative zoom") << QString() << QByteArray("{\"view\": {\"zoom\": -1}}")
+                                     << QStringList { "\"view.zoom\"", "0 (fit)" };
 }
 
 void tst_Scenario::read()

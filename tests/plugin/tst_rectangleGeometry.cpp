@@ -24,6 +24,7 @@ struct Limits : PLG_RectangleConstraints
     Limits& size(int w, int h) { return sizeStep = QSize(w, h), *this; }
     Limits& centre(bool x, bool y) { return centerX = x, centerY = y, *this; }
     Limits& aspect() { return fixAspect = true, *this; }
+    Limits& whole(int w, int h) { return wholeImage = QSize(w, h), *this; }
 };
 
 } // namespace
@@ -120,6 +121,7 @@ void tst_RectangleGeometry::constrained_data()
     QTest::newRow("size grid counts from the minimum at the top") << PLG_RectangleConstraints(Limits().size(10, 10).min(5, 5)) << 0 << 0.0 << b << QRect(20, 13, 40, 37) << QRect(20, 15, 40, 35);
     QTest::newRow("centre lock x") << PLG_RectangleConstraints(Limits().centre(true, false)) << 8 << 0.0 << b << QRect(10, 10, 50, 20) << QRect(75, 10, 50, 20);
     QTest::newRow("centre lock y") << PLG_RectangleConstraints(Limits().centre(false, true)) << 3 << 0.0 << b << QRect(10, 10, 50, 20) << QRect(10, 40, 50, 20);
+    QTest::newRow("centre lock on the camera's whole image") << PLG_RectangleConstraints(Limits().centre(true, false).whole(240, 100)) << 8 << 0.0 << b << QRect(10, 10, 50, 20) << QRect(95, 10, 50, 20);
     // clang-format on
 }
 
@@ -147,6 +149,7 @@ void tst_RectangleGeometry::dragged_data()
     QTest::newRow("an edge stops short of the minimum") << min20 << 2 << QPoint(95, 30) << current;
     QTest::newRow("a corner moves only when both edges may") << min20 << 4 << QPoint(30, 55) << current;
     QTest::newRow("a centre lock moves the opposite edge") << PLG_RectangleConstraints(Limits().centre(false, true)) << 0 << QPoint(70, 10) << QRect(50, 10, 60, 80);
+    QTest::newRow("the opposite edge mirrors about the whole image") << PLG_RectangleConstraints(Limits().centre(true, false).whole(220, 100)) << 2 << QPoint(30, 99) << QRect(30, 20, 160, 40);
     QTest::newRow("the inside moves by the travel since the press") << PLG_RectangleConstraints(Limits()) << 8 << QPoint(80, 25) << QRect(40, 5, 60, 40);
     // clang-format on
 }
@@ -183,6 +186,7 @@ void tst_RectangleGeometry::keyed_data()
     QTest::newRow("shift past the border is dropped") << steps << int(Qt::Key_Up) << true << false << QRect(50, 2, 60, 40) << QRect();
     QTest::newRow("shift control below the minimum is dropped") << PLG_RectangleConstraints(Limits().size(8, 8).min(55, 1)) << left << true << true << r << QRect();
     QTest::newRow("a centre lock halves the step on both edges") << PLG_RectangleConstraints(Limits().size(8, 8).min(4, 4).centre(true, false)) << right << true << false << QRect(70, 20, 60, 40) << QRect(66, 20, 68, 40);
+    QTest::newRow("a centre lock on the whole image keeps it there") << PLG_RectangleConstraints(Limits().size(8, 8).min(4, 4).centre(true, false).whole(220, 100)) << right << true << false << QRect(80, 20, 60, 40) << QRect(76, 20, 68, 40);
     QTest::newRow("a key that is no arrow does nothing") << steps << int(Qt::Key_A) << false << false << r << QRect();
     // clang-format on
 }
@@ -337,6 +341,9 @@ void tst_RectangleGeometry::randomDragsAndKeysKeepTheRectangle()
     for (int world = 0; world < 300; ++world) {
         PLG_RectangleConstraints settings;
         settings.image = QSize(between(1, 400), between(1, 400));
+        // A camera's whole image may reach beyond the document's.
+        if (chance(30))
+            settings.wholeImage = settings.image + QSize(between(0, 60), between(0, 60));
         settings.positionStep = QPoint(between(1, 12), between(1, 12));
         // Often no grid and no scaling, so that the aspect's guarantee gets checked too.
         settings.sizeStep = chance(50) ? QSize(1, 1) : QSize(between(1, 12), between(1, 12));

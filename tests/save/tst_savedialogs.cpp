@@ -85,6 +85,8 @@ private slots:
     void conversionSettings();
     void openDialog_data();
     void openDialog();
+    void subDialogs_data();
+    void subDialogs();
 
 private:
     struct Run
@@ -388,6 +390,54 @@ void tst_SaveDialogs::openDialog()
     // No password in the record, whatever happened.
     for (const QJsonObject& event : result.events)
         QVERIFY(!QJsonDocument(event).toJson().contains("secret"));
+}
+
+void tst_SaveDialogs::subDialogs_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("page"); // the sub dialog's page; "" when it must not open
+    QTest::addColumn<QStringList>("messages");
+
+    QTest::newRow("the time code dialog") << "timeCode"
+                                          << ""
+                                          << "prefs_customize_timecode.html" << QStringList();
+    QTest::newRow("the information of saved pictures") << "editInfo"
+                                                       << ""
+                                                       << "saveinfoview.html" << QStringList();
+    QTest::newRow("no time code while a conversion runs")
+        << "timeCode"
+        << R"(, "status": {"IsBgConverting": true})"
+        << "" << QStringList { "You can not edit during the conversion process." };
+    QTest::newRow("no information while a conversion runs")
+        << "editInfo"
+        << R"(, "status": {"IsBgConverting": true})"
+        << "" << QStringList { "You can not edit during the conversion process." };
+}
+
+void tst_SaveDialogs::subDialogs()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, status);
+    QFETCH(QString, page);
+    const QString where = QStringLiteral("location.href.split('/').pop()");
+    QJsonArray steps { js(
+        QStringLiteral("filedialogPage.check(1, 1, true); $('#%1').click(); 1").arg(button)) };
+    if (page.isEmpty())
+        steps.append(click("OK"));
+    else
+        steps << js(where) << js("$('.hostpage-cancel').click(); 1");
+    steps.append(js("$('#cancel').click(); 1"));
+    QByteArray world = scenario(m_out, QString());
+    world.insert(world.lastIndexOf('}'), status.toUtf8());
+    const Run result = run(world, steps, QStringLiteral("filesavedialog"));
+    QCOMPARE(result.code, 0);
+    QStringList shown;
+    for (const QJsonObject& event : result.of(QStringLiteral("js")))
+        if (event.value(QStringLiteral("code")).toString() == where)
+            shown << event.value(QStringLiteral("result")).toString();
+    QCOMPARE(shown, page.isEmpty() ? QStringList() : QStringList { page });
+    QTEST(result.texts(QStringLiteral("message"), QStringLiteral("text")), "messages");
 }
 
 QTEST_MAIN(tst_SaveDialogs)

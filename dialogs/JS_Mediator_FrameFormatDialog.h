@@ -1,0 +1,22 @@
+#pragma once
+
+#include "web/JS_Mediator_Dialog.h"
+
+// The page object "frameFormatDialog": whether frame numbers are written with a thousands
+// separator. A change is written at once; cancel writes back the value of the start.
+class JS_Mediator_FrameFormatDialog : public JS_Mediator_Dialog
+{
+    Q_OBJECT
+
+public:
+    explicit JS_Mediator_FrameFormatDialog(APP_Host* host);
+
+public slots:
+    void ok();
+    void cancel();
+    bool isFrameInsertDelimiter();
+    void setFrameInsertDelimiter(bool val);
+
+private:
+    bool m_insertDelimiter;
+};
