@@ -68,6 +68,8 @@ public:
     // The live control page the host's panel shows in camera mode (HST_HostPages.cpp).
     HST_LiveControlPage* liveControlPage() const { return m_liveControlPage.get(); }
     PLG_Interface* currentPage() override;
+    // The select box offers the live control page's variables: that page is the panel's.
+    void setLiveControlShown(bool shown) { m_liveControlShown = shown; }
     void selectVariable(int number) override;
 
 signals:
@@ -285,6 +287,7 @@ private:
     std::vector<std::unique_ptr<APP_CameraTypeRecord>> m_typeRecords;
 
     std::unique_ptr<HST_LiveControlPage> m_liveControlPage;
+    bool m_liveControlShown = false;
     std::unique_ptr<HST_HubList> m_hubs;
     std::vector<std::unique_ptr<HST_HubList>> m_retiredHubs;
 };

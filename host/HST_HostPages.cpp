@@ -5,9 +5,11 @@
 
 PLG_Interface* HST_Host::currentPage()
 {
-    hostCall("currentPage");
-    // The host's panel shows the live control page while it is in camera mode.
-    return m_mode == 0 ? m_liveControlPage.get() : nullptr;
+    // A plug-in's page the host shows wins; else the live control page, while the select box
+    // offers its variables in camera mode.
+    if (PLG_Interface* page = HST_ViewHost::currentPage())
+        return page;
+    return m_liveControlShown && m_mode == 0 ? m_liveControlPage.get() : nullptr;
 }
 
 void HST_Host::selectVariable(int number)

@@ -67,6 +67,7 @@ int HST_SelectBoxHost::show(const QString& what)
         return 1;
     }
     int rows = 0;
+    m_host->setLiveControlShown(!partition);
     if (partition) {
         QVariantList partitions;
         if (const HST_Document* current = m_host->openDocument(m_host->currentDocumentKey())) {
