@@ -1,6 +1,7 @@
 // How fast the generator connect dialog comes up, and what one call from its page to the
 // mediator costs. Run by hand: prints the figures beside the aims (warm open under 100 ms, a
 // call under 50 us).
+#include "bench/BenchTiming.h"
 #include "generator/DOC_VIGen.h"
 #include "generator/GUI_SyncSignalGeneratorConnect.h"
 #include "host/HST_Host.h"
@@ -20,12 +21,6 @@
 #include <vector>
 
 namespace {
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 // Milliseconds from making the dialog (its page load starts there) to the page's load-finished.
 double openOnce(HST_Host* host, DOC_VIGen* driver, double* callMicros)

@@ -2,6 +2,7 @@
 // states and a rebuilt wiring diagram) plus one paint of the diagram, for 2, 8, 16 and 64
 // cameras, through the real plug-in file in the reference host. Prints the medians and how
 // the cost grows; exits 1 when 16 cameras miss one 60 Hz frame.
+#include "bench/BenchTiming.h"
 #include "host/HST_Application.h"
 
 #include <QAbstractButton>
@@ -30,12 +31,6 @@ QByteArray scenario(int cameras)
     return QStringLiteral("{\"syncCapableTypes\": [1], \"cameras\": [%1]}")
         .arg(entries.join(QLatin1Char(',')))
         .toUtf8();
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.empty() ? 0.0 : values[values.size() / 2];
 }
 
 // Times the runs on the open dialog, then leaves it.
@@ -109,10 +104,10 @@ int main(int argc, char* argv[])
         std::sort(samples.begin(), samples.end());
         std::printf("guiUpdate + diagram paint, %2d cameras: median %6.2f ms, max %6.2f ms over "
                     "%zu runs\n",
-                    cameras, m, samples.empty() ? 0.0 : samples.back(), samples.size());
+            cameras, m, samples.empty() ? 0.0 : samples.back(), samples.size());
     }
     const double ratio = medians[2] > 0 ? medians[64] / medians[2] : 0.0;
     std::printf("growth 64/2 cameras: %.1fx; 16 cameras: %.2f ms of a %.2f ms frame (ratio %.2f)\n",
-                ratio, medians[16], FrameMs, medians[16] / FrameMs);
+        ratio, medians[16], FrameMs, medians[16] / FrameMs);
     return medians[16] > 0 && medians[16] < FrameMs ? 0 : 1;
 }

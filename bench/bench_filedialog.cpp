@@ -3,6 +3,7 @@
 // documents of 8 partitions into a directory that holds 100 earlier sessions, where each step
 // of the naming rule's session search lists the directory by design. Run by hand, with "list"
 // or "compose" to run one part; exits 1 when list() misses its aim.
+#include "bench/BenchTiming.h"
 #include "host/HST_Host.h"
 #include "host/HST_Recorder.h"
 #include "host/HST_Scenario.h"
@@ -63,12 +64,6 @@ HST_Scenario cameras(int count, int partitions)
         scenario.cameras.append(camera);
     }
     return scenario;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 // 1920 x 1080 after one preference changed, with every item of the table on. Run by hand:
 // prints the medians and exits 1 when one misses its aim (1 ms for the list, 8 ms, half a
 // 60 Hz frame, for the redraw).
+#include "bench/BenchTiming.h"
 #include "dialogs/GUI_EditInfoDialog.h"
 #include "host/HST_DocumentView.h"
 #include "host/HST_Host.h"
@@ -29,20 +30,6 @@ const double listAimMs = 1.0;
 const double redrawAimMs = 8.0;
 
 // before runs untimed ahead of each timed body: a preference written, as the dialog writes it.
-double median(int runs, const std::function<void(int)>& before, const std::function<void()>& body)
-{
-    std::vector<double> times;
-    for (int run = 0; run < runs; ++run) {
-        before(run);
-        QElapsedTimer timer;
-        timer.start();
-        body();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -67,8 +54,7 @@ int main(int argc, char** argv)
     GUI_EditInfoDialog dialog(&host, 1, false, nullptr, -1, { 1 }, QDateTime::currentDateTime());
     const int rows = INFO_ITEM_COUNT;
     dialog.getInfoSettingsHtml(0);
-    const double list = median(
-        201, [](int) {}, [&] { dialog.getInfoSettingsHtml(0); });
+    const double list = medianMs(201, [&] { dialog.getInfoSettingsHtml(0); });
     std::printf(
         "getInfoSettingsHtml, %d rows: median %.3f ms (aim %.1f ms)\n", rows, list, listAimMs);
 
@@ -83,11 +69,15 @@ int main(int argc, char** argv)
         host.preferences()->setValue(PREF_KEY_INFO_FONT_SIZE, run % 2 ? "12" : "13");
     };
     view.render(&target);
-    const double whole = median(101, change, [&] { view.render(&target); });
-    const double overlay = median(101, change, [&] {
-        QPainter painter(&target);
-        host.paintInformation(1, painter, target.rect());
-    });
+    const double whole = medianMs(
+        101, [&] { view.render(&target); }, change);
+    const double overlay = medianMs(
+        101,
+        [&] {
+            QPainter painter(&target);
+            host.paintInformation(1, painter, target.rect());
+        },
+        change);
     int lines = 0;
     for (const QString& entry : allOn.split(QLatin1Char(','))) {
         for (const InfoItem* item = INFO_ITEMS; !item->key.isEmpty(); ++item)

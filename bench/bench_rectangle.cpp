@@ -3,6 +3,7 @@
 // button down, through the region of interest plug-in file in the reference host, and of the
 // arithmetic alone. Prints the medians; exits 1 when mouseMoved misses 20 us, the budget of a
 // 1 kHz mouse that must never fall behind.
+#include "bench/BenchTiming.h"
 #include "host/HST_Host.h"
 #include "host/HST_PluginLoader.h"
 #include "host/HST_Recorder.h"
@@ -23,12 +24,6 @@ namespace {
 
 const int Moves = 20000;
 const double BudgetUs = 20.0;
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.empty() ? 0.0 : values[values.size() / 2];
-}
 
 // The settings as a user sets them on the plug-in's page.
 void setEveryConstraint(QWidget* panel)

@@ -1,6 +1,7 @@
 // From the click on "Sync execute" to the success message, with the host's applySync taking
 // no time, through the real plug-in file in the reference host. Prints the figures; exits 1
 // when the median misses its budget.
+#include "bench/BenchTiming.h"
 #include "host/HST_Application.h"
 
 #include <QAbstractButton>
@@ -24,7 +25,8 @@ QByteArray scenario(int cameras)
 {
     QStringList entries;
     for (int i = 1; i <= cameras; ++i)
-        entries.append(QStringLiteral("{\"ip\": \"10.0.%1.%2\", \"type\": 1}").arg(i / 200).arg(i % 200 + 1));
+        entries.append(
+            QStringLiteral("{\"ip\": \"10.0.%1.%2\", \"type\": 1}").arg(i / 200).arg(i % 200 + 1));
     return QStringLiteral("{\"syncCapableTypes\": [1], \"cameras\": [%1], "
                           "\"applySync\": {\"result\": \"ok\", \"delayMs\": 0}}")
         .arg(entries.join(','))
@@ -80,23 +82,18 @@ private:
     QElapsedTimer m_clock;
 };
 
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.empty() ? 0.0 : values[values.size() / 2];
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    qputenv("QT_QPA_PLATFORM",
+        qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
     QApplication app(argc, argv);
     std::printf("build type: %s\n", SYNC_BENCH_BUILD_TYPE);
     // The lines of every run would drown the figures.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     bool ok = true;
-    for (const int cameras : {2, 16}) {
+    for (const int cameras : { 2, 16 }) {
         QTemporaryDir dir;
         HST_Options options;
         options.scenarioJson = scenario(cameras);
@@ -115,7 +112,7 @@ int main(int argc, char* argv[])
         const double worst = driver.samples.empty() ? 0.0 : driver.samples.back();
         std::printf("sync click to success, %2d cameras: median %.2f ms, max %.2f ms over %zu runs "
                     "(budget %.0f ms, ratio %.2f)\n",
-                    cameras, m, worst, driver.samples.size(), BudgetMs, m / BudgetMs);
+            cameras, m, worst, driver.samples.size(), BudgetMs, m / BudgetMs);
         ok = ok && int(driver.samples.size()) == Runs && m < BudgetMs;
     }
     return ok ? 0 : 1;

@@ -275,6 +275,7 @@ int HST_Application::start()
         [host] { return host->currentDocumentKey(); },
         [host](int key) { return host->rectangleRecord(key); } });
     m_script->setAutoAnswer(m_options.autoAnswer);
+    m_script->setEndClosed(m_options.quit);
     connect(m_script.get(), &HST_ScriptRunner::acting, this,
         [host](int step) { host->faults()->setStep(step); });
     connect(m_script.get(), &HST_ScriptRunner::finished, this, &HST_Application::checkFinished,

@@ -163,7 +163,7 @@ void HST_ScriptRunner::start()
     m_stepClock.start();
     if (m_finished)
         emit finished(true);
-    if (!m_finished || m_autoAnswer)
+    if (!m_finished || m_autoAnswer || m_endClosed)
         m_timer.start();
 }
 
@@ -179,6 +179,8 @@ void HST_ScriptRunner::poll()
             return;
         }
     }
+    if (m_started && m_finished && m_endClosed)
+        failLeftOpen();
     if (!m_started || m_finished)
         return;
     const QJsonObject step = m_steps.at(m_index).toObject();
@@ -566,7 +568,7 @@ void HST_ScriptRunner::nextStep()
     if (m_index < m_steps.size())
         return;
     m_finished = true;
-    if (!m_autoAnswer)
+    if (!m_autoAnswer && !m_endClosed)
         m_timer.stop();
     emit finished(true);
 }
@@ -582,6 +584,23 @@ void HST_ScriptRunner::fail(const QString& problem)
         { { QStringLiteral("index"), m_index + 1 }, { QStringLiteral("text"), m_failure } });
     qCritical("%s", qPrintable(m_failure));
     m_finished = true;
+    emit finished(false);
+}
+
+void HST_ScriptRunner::failLeftOpen()
+{
+    QWidget* window = QApplication::activeModalWidget();
+    if (!window || isBusyDialog(window)) {
+        m_stepClock.restart();
+        return;
+    }
+    if (m_stepClock.elapsed() <= m_timeoutMs)
+        return;
+    m_failure = QStringLiteral("after the last step: the window \"%1\" is still open")
+                    .arg(window->windowTitle());
+    m_recorder->record(QStringLiteral("scriptError"),
+        { { QStringLiteral("index"), m_steps.size() }, { QStringLiteral("text"), m_failure } });
+    qCritical("%s", qPrintable(m_failure));
     emit finished(false);
 }
 

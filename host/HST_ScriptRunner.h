@@ -63,6 +63,9 @@ public:
     // Every message box is answered as soon as it shows, with OK where it has one, else No:
     // for runs whose boxes can't be foreseen step by step (injected faults).
     void setAutoAnswer(bool on) { m_autoAnswer = on; }
+    // For runs that must end: a modal window still up a step timeout after the last step is a
+    // failure, and the window is closed.
+    void setEndClosed(bool on) { m_endClosed = on; }
     // Answers boxes from now on, before the steps start (the plug-in may report while loading).
     void startAnswering();
     // No more steps; boxes are still answered (while the plug-in unloads).
@@ -101,11 +104,13 @@ private:
     void nextStep();
     void fail(const QString& problem);
     void closeModalWindows();
+    void failLeftOpen();
 
     HST_Recorder* m_recorder;
     QJsonArray m_steps;
     int m_index = 0;
     int m_timeoutMs = 10000;
+    bool m_endClosed = false;
     QTimer m_timer;
     QElapsedTimer m_stepClock;
     QPointer<QWidget> m_idleWindow;

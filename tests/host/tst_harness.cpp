@@ -203,6 +203,9 @@ void tst_Harness::openByName_data()
     QTest::newRow("a panel: the host's page with the plug-in's mediator")
         << "hoststatus" << QJsonArray { onStatusPage("hoststatus.getSelectedDockey().join(',')") }
         << 0 << 1 << QString();
+    QTest::newRow("a dialog the steps leave open is closed, and the run fails")
+        << "sync_signal_generator_connect"
+        << QJsonArray { step(QStringLiteral("js"), QStringLiteral("1")) } << 3 << 0 << QString();
     QTest::newRow("a name nobody registered")
         << "nosuchpage" << QJsonArray() << 3 << -2 << QString();
 }
@@ -228,6 +231,8 @@ void tst_Harness::openByName()
     QCOMPARE(opened.last().value(QStringLiteral("phase")).toString(), QStringLiteral("end"));
     QCOMPARE(opened.last().value(QStringLiteral("result")).toInt(), result);
     QCOMPARE(opened.last().value(QStringLiteral("arg")).toString(), arg);
+    if (code != 0)
+        QVERIFY2(run.error.contains(QLatin1String("is still open")), qPrintable(run.error));
     // Every step acted, its result recorded.
     QCOMPARE(run.of(QStringLiteral("js")).size(), 1);
     if (open == QLatin1String("hoststatus"))
