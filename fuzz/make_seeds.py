@@ -237,6 +237,26 @@ def display_list():
         write("fuzz_display_list", name, data)
 
 
+def settings_file():
+    import hashlib
+    import json
+    cameras = [{"name": "Front", "model": "HX-1 type A model 1",
+                "settings": {"triggerMode": 1, "lowLightMode": 0, "dualSlopeShutter": 0,
+                             "automaticExposureControl": 0, "exposureTimingFlag": 0,
+                             "exposureTimingClass": 0, "etherType": 1}}]
+    compact = json.dumps(cameras, separators=(",", ":"), sort_keys=True).encode()
+    good = {"type": "qsetx", "version": 1, "cameras": cameras,
+            "checksum": hashlib.sha256(compact).hexdigest()}
+    text = json.dumps(good, indent=4).encode()
+    seeds = {
+        "good.qsetx": text,
+        "truncated.qsetx": text[: len(text) // 2],
+        "other-type.qsetx": text.replace(b'"qsetx"', b'"custom"'),
+    }
+    for name, data in seeds.items():
+        write("fuzz_settings_file", name, data)
+
+
 if __name__ == "__main__":
     visa_reply()
     visa_session()
@@ -248,3 +268,4 @@ if __name__ == "__main__":
     camera_names()
     save_lists()
     display_list()
+    settings_file()

@@ -71,6 +71,8 @@ int HST_DialogOpener::open(const QString& name, const QString& arg)
         // What the dialog changed shows now, as a host refreshes once a modal dialog closes:
         // a comment written without telling the host, for one.
         emit m_host->stateChanged();
+    } else if (m_panelHandlers.contains(name)) {
+        result = m_panelHandlers.value(name)(arg);
     } else {
         result = showPanel(name) ? 1 : -1;
     }
@@ -129,4 +131,20 @@ HST_PagePanel* HST_DialogOpener::pagePanel(const QString& name)
     if (!dock)
         dock = showPanel(name);
     return dock ? qobject_cast<HST_PagePanel*>(dock->widget()) : nullptr;
+}
+
+void HST_DialogOpener::setPanelHandler(
+    const QString& page, std::function<int(const QString& arg)> handler)
+{
+    m_panelHandlers.insert(page, std::move(handler));
+}
+
+QWidget* HST_DialogOpener::makePanelWidget(const QString& name, QWidget* parent)
+{
+    const Page* page = find(name);
+    QWidget* widget = nullptr;
+    if (page && m_factory && page->kind == QLatin1String("panel"))
+        QMetaObject::invokeMethod(m_factory, "createPanel", Q_RETURN_ARG(QWidget*, widget),
+            Q_ARG(QString, name), Q_ARG(QWidget*, parent));
+    return widget;
 }

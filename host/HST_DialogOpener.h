@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QString>
 
+#include <functional>
+
 class HST_Host;
 class HST_PagePanel;
 class QDockWidget;
@@ -41,6 +43,10 @@ public:
     QDockWidget* showPanel(const QString& page);
     // The host page of a page's dock, made on first use; null for anything else.
     HST_PagePanel* pagePanel(const QString& page);
+    // A panel the host places itself instead of docking it: open() hands it the argument.
+    void setPanelHandler(const QString& page, std::function<int(const QString& arg)> handler);
+    // The plug-in's widget of a panel, made for the parent; null when it can't be made.
+    QWidget* makePanelWidget(const QString& page, QWidget* parent);
 
 private:
     const Page* find(const QString& name) const;
@@ -52,4 +58,5 @@ private:
     QPointer<QObject> m_factory;
     QList<Page> m_pages;
     QMap<QString, QPointer<QDockWidget>> m_docks;
+    QMap<QString, std::function<int(const QString& arg)>> m_panelHandlers;
 };

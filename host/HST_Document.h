@@ -15,6 +15,7 @@
 
 struct HST_CameraState;
 class HST_Faults;
+class HST_HeadGroups;
 class HST_Media;
 class HST_InfoHost;
 class HST_Preferences;
@@ -31,6 +32,8 @@ struct HST_DocumentContext
     HST_Preferences* prefs = nullptr;
     // The devices the host has: deviceCount of every document.
     int deviceCount = 1;
+    // The multi-head devices among the documents.
+    HST_HeadGroups* headGroups = nullptr;
     // The cameras' media, which a recording's document renames.
     HST_Media* media = nullptr;
     // Closes a document whose file was deleted.
@@ -85,17 +88,14 @@ public:
     void heads(QList<DOC_Interface*>& out, bool all = true) override;
     int headCount() override;
     bool isConnected() override;
-    void setConnectWanted(bool) override { hostCall("document.setConnectWanted"); }
+    void setConnectWanted(bool wanted) override;
+    bool connectWanted() const { return m_connectWanted; }
     bool isSelected() override
     {
         hostCall("document.isSelected");
         return m_selected;
     }
-    bool isSelectedMulti() override
-    {
-        hostCall("document.isSelectedMulti");
-        return m_selected;
-    }
+    bool isSelectedMulti() override;
     bool holdsCameraMemory() override
     {
         hostCall("document.holdsCameraMemory");
@@ -165,17 +165,9 @@ public:
         return m_camera ? m_currentPartition : 0;
     }
     void setPartitionDirty(int = 0) override { hostCall("document.setPartitionDirty"); }
-    int partitionCount(int = 0, int = 0) override
-    {
-        hostCall("document.partitionCount");
-        return m_camera ? 1 : 0;
-    }
+    int partitionCount(int = 0, int = 0) override;
     bool isFunctionSupported(int functionId, bool current = true) override;
-    bool hasSiblingHeads() override
-    {
-        hostCall("document.hasSiblingHeads");
-        return false;
-    }
+    bool hasSiblingHeads() override;
     void firmwareVersion(QString& out) override;
     void firmwareVersion2(QString& out) override;
     void firmwareVersion3(QString& out) override;
@@ -394,20 +386,18 @@ public:
     void reloadLogo() override;
 
     // DOC_HeadGroup
-    bool isHeadGroupOwner() override
-    {
-        hostCall("document.isHeadGroupOwner");
-        return false;
-    }
-    bool isHeadOfGroup() override
-    {
-        hostCall("document.isHeadOfGroup");
-        return false;
-    }
-    void selectHead(DOC_Interface*) override { hostCall("document.selectHead"); }
-    void unselectHead(DOC_Interface*) override { hostCall("document.unselectHead"); }
-    void unselectAllHeads() override { hostCall("document.unselectAllHeads"); }
-    void selectAllHeads() override { hostCall("document.selectAllHeads"); }
+    bool isHeadGroupOwner() override;
+    bool isHeadOfGroup() override;
+    void selectHead(DOC_Interface* head) override;
+    void unselectHead(DOC_Interface* head) override;
+    void unselectAllHeads() override;
+    void selectAllHeads() override;
+
+    // DOC_Camera: presets
+    int presetCount() override;
+    QStringList& presetTexts(QStringList& out) override;
+    void writePreset(int preset) override;
+    bool presetNeedsReboot(int preset) override;
 
     // What a save takes of it (HST_DocumentDescription, HST_Preview, HST_SaveWriter).
     QVariantMap documentDescription(bool convert) override;
@@ -448,6 +438,7 @@ private:
     HST_CustomData m_customData;
     HST_CameraMedia m_cameraMedia;
     bool m_selected = false;
+    bool m_connectWanted = false;
     int m_currentPartition = 1;
     bool m_saveInfo = false;
     bool m_saveCorrect = false;

@@ -3,6 +3,7 @@
 #include "host/HST_CameraState.h"
 #include "host/HST_Document.h"
 #include "host/HST_DocumentView.h"
+#include "host/HST_HeadGroups.h"
 #include "host/HST_Recorder.h"
 
 #include <QApplication>
@@ -14,8 +15,20 @@
 HST_DocumentHost::HST_DocumentHost(HST_Recorder* recorder)
     : HST_StatusHost(recorder)
     , m_documentRecorder(recorder)
+    , m_headGroups(new HST_HeadGroups(recorder, [this](const QList<int>& keys, bool selected) {
+        for (int key : keys) {
+            if (HST_Document* document = m_documents.value(key, nullptr))
+                document->setSelected(selected);
+        }
+        recordSelection();
+    }))
 {
     m_documentContext.recorder = recorder;
+    m_documentContext.headGroups = m_headGroups.get();
+    m_headGroups->setIsSelected([this](int key) {
+        const HST_Document* document = m_documents.value(key, nullptr);
+        return document && document->selected();
+    });
 }
 
 HST_DocumentHost::~HST_DocumentHost() = default;
@@ -64,6 +77,7 @@ void HST_DocumentHost::replaceDocuments(
     m_cameras.clear();
     m_cameraByPointer.clear();
     m_documents.clear();
+    m_headGroups->clear();
     m_currentKey = INVALID_DOCKEY;
     m_fileCount = 0;
     addDocuments(cameras, files);
@@ -88,6 +102,8 @@ void HST_DocumentHost::addDocuments(
 
 HST_CameraState* HST_DocumentHost::addCamera(const HST_CameraSpec& spec)
 {
+    if (spec.setup.heads >= 2)
+        return addHeadGroup(spec);
     m_cameras.emplace_back(new HST_CameraState);
     HST_CameraState* camera = m_cameras.back().get();
     camera->spec = spec;
@@ -251,7 +267,11 @@ void HST_DocumentHost::setCurrentDocument(int key, bool)
 void HST_DocumentHost::removeDocument(int key)
 {
     hostCall("removeDocument");
-    closeDocument(key);
+    // A head goes with its device: the owner and every head.
+    const QList<int> device = m_headGroups->deviceOf(key);
+    m_headGroups->remove(key);
+    for (int member : device)
+        closeDocument(member);
 }
 
 void HST_DocumentHost::closeDocument(int key)

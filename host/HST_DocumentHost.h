@@ -12,6 +12,7 @@
 #include <vector>
 
 class HST_Faults;
+class HST_HeadGroups;
 class QMdiArea;
 struct HST_CameraState;
 
@@ -102,11 +103,28 @@ public:
     }
     QList<DOC_Interface*>& allDocuments(QList<DOC_Interface*>& out) override;
 
+    // Multi-head devices, device entries and camera settings (HST_DocumentHostDevices.cpp).
+    HST_HeadGroups* headGroups() const { return m_headGroups.get(); }
+    void removeAllDocuments(int reserved, bool unselectOnly) override;
+    DOC_Interface* headParent(DOC_Interface* doc) override;
+    QList<int> settingsDocumentKeys() override;
+    QMutex* cameraMutex() override
+    {
+        hostCall("cameraMutex");
+        return &m_cameraMutex;
+    }
+    void saveSettingsFile(const QString& path, int reserved = 0) override;
+    void loadSettingsFile(const QString& path) override;
+    void stopPlayer() override;
+    void stopViewRecording() override;
+    void selectPartition(int partition, bool update = true) override;
+
     // APP_SaveRegistry, APP_WindowList
     void copySelectArea(int kind = 2) override;
     int windowCount(bool visible, int kind) override;
 
 private:
+    HST_CameraState* addHeadGroup(const HST_CameraSpec& spec);
     // Only the listed documents selected.
     void setSelection(const QList<int>& keys);
     void recordSelection();
@@ -126,4 +144,6 @@ private:
     int m_fileCount = 0;
     QMutex m_documentMutex;
     QPointer<QMdiArea> m_documentArea;
+    std::unique_ptr<HST_HeadGroups> m_headGroups;
+    QMutex m_cameraMutex;
 };

@@ -7,6 +7,7 @@
 #include "host/HST_Faults.h"
 #include "host/HST_HubList.h"
 #include "host/HST_LinkCoreHub.h"
+#include "host/HST_LiveControlPage.h"
 #include "host/HST_Preferences.h"
 #include "host/HST_PrefsDialog.h"
 #include "host/HST_Recorder.h"
@@ -85,6 +86,7 @@ HST_Host::HST_Host(
     , m_faults(std::make_unique<HST_Faults>(scenario.faults, recorder))
     , m_saveRegistry(std::make_unique<HST_SaveRegistry>(
           recorder, scenario.saveGroupDirectory, scenario.saveDirectory))
+    , m_liveControlPage(new HST_LiveControlPage(recorder))
     , m_hubs(new HST_HubList(scenario.hubs, recorder, m_faults.get()))
 {
     documentContext().prefs = m_prefs.get();

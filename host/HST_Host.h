@@ -14,6 +14,7 @@
 
 class HST_Faults;
 class HST_HubList;
+class HST_LiveControlPage;
 class HST_Preferences;
 class HST_PrefsDialog;
 class HST_Recorder;
@@ -64,6 +65,12 @@ public:
     // Publishes a mediator under its object name to the view's page, again whenever the page's
     // window object is cleared; the work of attachMediator.
     void publishMediator(QWebView* view, QObject* mediator);
+    // The live control page the host's panel shows in camera mode (HST_HostPages.cpp).
+    HST_LiveControlPage* liveControlPage() const { return m_liveControlPage.get(); }
+    PLG_Interface* currentPage() override;
+    // The select box offers the live control page's variables: that page is the panel's.
+    void setLiveControlShown(bool shown) { m_liveControlShown = shown; }
+    void selectVariable(int number) override;
 
 signals:
     // The mode or the documents changed: plug-ins' enabled state must be asked again.
@@ -279,6 +286,8 @@ private:
     std::unique_ptr<HST_SaveRegistry> m_saveRegistry;
     std::vector<std::unique_ptr<APP_CameraTypeRecord>> m_typeRecords;
 
+    std::unique_ptr<HST_LiveControlPage> m_liveControlPage;
+    bool m_liveControlShown = false;
     std::unique_ptr<HST_HubList> m_hubs;
     std::vector<std::unique_ptr<HST_HubList>> m_retiredHubs;
 };

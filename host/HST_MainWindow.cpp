@@ -11,6 +11,7 @@
 #include "host/HST_Recorder.h"
 #include "host/HST_ToolPages.h"
 #include "host/HST_ViewMenu.h"
+#include "host/HST_SelectBoxHost.h"
 #include "plugin/PLG_Interface.h"
 #include "plugin/SharedKeys.h"
 
@@ -67,6 +68,7 @@ HST_MainWindow::HST_MainWindow(HST_Host* host)
     });
 
     setCentralWidget(m_documentArea);
+    new HST_SelectBoxHost(host, m_opener, m_documentArea);
     host->setDocumentArea(m_documentArea);
 
     m_documentTable->setObjectName(QStringLiteral("host_documents"));

@@ -15,6 +15,11 @@ const struct
     { "custominfo", "Info", "Custom info...", "" },
     { "custominfo", "Info", "Custom info for file names...", "2" },
     { "custominfo", "Info", "Custom info of temporary documents...", "15:temporary" },
+    { "camerasettings", "Device", "Save camera settings...", "file" },
+    { "camerasettings", "Device", "Write camera presets...", "preset" },
+    { "camerasettingsload", "Device", "Load camera settings...", "" },
+    { "selectbox", "View", "Select partition", "partition" },
+    { "selectbox", "View", "Select variable", "variable" },
 };
 
 } // namespace

@@ -320,7 +320,8 @@ HST_CameraSpec readCamera(
                 "syncRequired", "subnetmask", "gateway", "etherType", "headNumber", "headCount",
                 "firmware", "functions", "filePath", "connected", "mobile", "deviceName",
                 "wifiConnected", "linkSpeed", "bitDepth", "realBitDepth", "rostraLocked",
-                "media" });
+                "media" }
+            + HST_CameraSetup::keys());
     HST_CameraSpec camera;
     camera.document.view = view;
     camera.name = readString(
@@ -374,6 +375,10 @@ HST_CameraSpec readCamera(
         && !HST_MediaScenario::readMedia(object.value(QLatin1String("media")),
             join(name, QStringLiteral("media")), camera.media, refusal))
         refuse(refusal.key, refusal.problem);
+    QString key;
+    QString problem;
+    if (!HST_CameraSetup::read(object, name, camera.setup, key, problem))
+        refuse(key, problem);
     return camera;
 }
 

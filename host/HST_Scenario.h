@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/HST_CameraSetup.h"
 #include "host/HST_Fault.h"
 #include "host/HST_MediaSpec.h"
 #include "plugin/APP_TimeCodeRecord.h"
@@ -96,6 +97,8 @@ struct HST_CameraSpec
     int realBitDepth = 8;
     bool rostraLocked = false;
     HST_MediaSpec media;
+    // Presets and heads.
+    HST_CameraSetup setup;
 };
 
 // When a hub answers: from the host's start, from the first connectAll, or never.

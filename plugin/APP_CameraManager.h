@@ -6,6 +6,7 @@
 #include <QString>
 
 class DOC_Camera;
+class QMutex;
 
 // Facet of the host: the connected cameras as a whole.
 class SYNC_SHARED APP_CameraManager
@@ -33,4 +34,14 @@ public:
                             const QString& subnetmask, const QString& gateway, bool cameraMode) = 0;
     virtual void addDevice(const QString& cameraName, const QString& ip, bool isDummy,
                            bool connect) = 0;
+
+    // Camera settings files and presets.
+    virtual QList<int> settingsDocumentKeys() = 0;
+    // Held while camera settings are written; tried, never waited for.
+    virtual QMutex* cameraMutex() = 0;
+    // Blocking; runs on a pool thread while the GUI thread waits in the busy dialog.
+    virtual void saveSettingsFile(const QString& path, int reserved = 0) = 0;
+    // Applies a settings file to the cameras it names: all of them or, when the file can't be
+    // read or names a camera that isn't there, none, with an APP_Exception that says why.
+    virtual void loadSettingsFile(const QString& path) = 0;
 };

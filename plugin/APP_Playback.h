@@ -10,4 +10,6 @@ public:
 
     virtual void pausePlayback() = 0;
     virtual void resumePlayback() = 0;
+    // Stops the player before camera settings are written.
+    virtual void stopPlayer() = 0;
 };

@@ -11,4 +11,6 @@ public:
     virtual bool isRecording() = 0;
     // 0 not recording, 1 CTS ready, 2 ready, 4 recording error.
     virtual int recordingStatus() = 0;
+    // Ends the recording state of the views before camera settings are loaded.
+    virtual void stopViewRecording() = 0;
 };

@@ -4,6 +4,7 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <QVariantList>
 
 // Facet of a document: the camera behind it. A document without a camera still answers.
@@ -93,4 +94,12 @@ public:
     virtual void setDataName(const QString& name) = 0;
     // The camera can tell which of its data were saved already.
     virtual bool canCheckSaved() = 0;
+
+    // Preset slots, numbered from 1.
+    virtual int presetCount() = 0;
+    // The texts of the slots, one per slot.
+    virtual QStringList& presetTexts(QStringList& out) = 0;
+    virtual void writePreset(int preset) = 0;
+    // The camera takes that preset only after a reboot.
+    virtual bool presetNeedsReboot(int preset) = 0;
 };

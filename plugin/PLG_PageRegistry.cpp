@@ -10,6 +10,7 @@
 #include "generator/DOC_VIGen.h"
 #include "generator/GUI_SyncSignalGeneratorConnect.h"
 #include "plugin/APP_Host.h"
+#include "plugin/PLG_CameraDevicePages.h"
 #include "plugin/PLG_DeviceInfoPages.h"
 #include "plugin/SharedKeys.h"
 #include "save/FileDialogKind.h"
@@ -159,6 +160,17 @@ const PLG_PageEntry pageTable[] = {
         &MediaPages::openInputPasswordDialog, nullptr, nullptr },
     { "change_password_dialog", PLG_PageKind::Dialog, "Change Password",
         &MediaPages::openChangePasswordDialog, nullptr, nullptr },
+    // Camera settings files and presets, the device panels and the select box.
+    { "camerasettings", PLG_PageKind::Dialog, "Save camera settings",
+        &PLG_CameraDevicePages::openCameraSettings, nullptr, nullptr },
+    { "camerasettingsload", PLG_PageKind::Dialog, "Load camera settings",
+        &PLG_CameraDevicePages::openCameraSettingsLoad, nullptr, nullptr },
+    { "devicelist", PLG_PageKind::Page, "Device list", nullptr, nullptr,
+        &PLG_CameraDevicePages::makeDeviceList },
+    { "devicecontrol", PLG_PageKind::Page, "Device control", nullptr, nullptr,
+        &PLG_CameraDevicePages::makeDeviceControl },
+    { "selectbox", PLG_PageKind::Panel, "Select box", nullptr,
+        &PLG_CameraDevicePages::makeSelectBox, nullptr },
 };
 
 } // namespace

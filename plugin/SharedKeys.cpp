@@ -550,3 +550,7 @@ const InfoItem INFO_ITEMS[INFO_ITEM_COUNT + 1] = {
     { INFO_KEY_LENS_INFO, 1, QStringLiteral("Lens Info"), QStringLiteral("Lens"), 1, 0, 0, 0 },
     { QString(), 0, QString(), QString(), 0, 0, 0, 0 },
 };
+
+const QString SETTINGS_FILE_SUFFIX = QStringLiteral("qsetx");
+const QString PREFS_PAGE_RECORD = QStringLiteral("s_record");
+const QString SELECT_BOX_GO_VARIABLE = QStringLiteral("go-variable");

@@ -316,3 +316,11 @@ struct InfoItem
 constexpr int INFO_ITEM_COUNT = 51;
 // The information items in their fixed order, separators counted, and an end row.
 extern const InfoItem INFO_ITEMS[INFO_ITEM_COUNT + 1];
+
+// Camera settings files and the pages of the device panels and the select box.
+// The suffix and type of a camera settings file.
+extern const QString SETTINGS_FILE_SUFFIX;
+// The preferences page of the recording settings.
+extern const QString PREFS_PAGE_RECORD;
+// What the select box's variable list sends to open the live control page's variable tab.
+extern const QString SELECT_BOX_GO_VARIABLE;

@@ -12,7 +12,7 @@ set -u
 ROOT="$(cd "$(dirname "$0")/.." && pwd)"
 SECONDS_EACH="${1:-60}"
 BUILD="${SYNC_FUZZ_BUILD:-$ROOT/build-fuzz}"
-TARGETS="${SYNC_FUZZ_TARGETS:-fuzz_visa_reply fuzz_visa_session fuzz_sim_request fuzz_text_helpers fuzz_scenario fuzz_custom_info fuzz_camera_names fuzz_save_lists fuzz_display_list fuzz_input_steps}"
+TARGETS="${SYNC_FUZZ_TARGETS:-fuzz_visa_reply fuzz_visa_session fuzz_sim_request fuzz_text_helpers fuzz_scenario fuzz_custom_info fuzz_camera_names fuzz_save_lists fuzz_display_list fuzz_input_steps fuzz_settings_file}"
 JOBS="${SYNC_FUZZ_PARALLEL:-2}"
 
 if ! [[ "$SECONDS_EACH" =~ ^[0-9]+$ ]] || [ "$SECONDS_EACH" -lt 1 ]; then

@@ -12,10 +12,12 @@ shoot() { # scenario, picture
     xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
         --press synccontrol --script "$prefs.script" --auto-answer --quit > /dev/null
 }
-# A panel or dialog of the plug-in file opened by name: scenario, page, picture, the window to grab.
+# A panel or dialog of the plug-in file opened by name: scenario, page, picture, the window to grab
+# (none: the main window).
 shoot_page() {
     local prefs; prefs="$(mktemp -d)/prefs.ini"
-    printf '[{"wait": 800}, {"screenshot": "%s", "window": "%s"}]' "$3" "$4" > "$prefs.script"
+    printf '[{"wait": 800}, {"screenshot": "%s"%s}]' "$3" "${4:+, \"window\": \"$4\"}" \
+        > "$prefs.script"
     xvfb-run -a -s "-screen 0 1600x1000x24" "$host" --scenario "$1" --prefs "$prefs" \
         --open "$2" --script "$prefs.script" --quit > /dev/null
 }
@@ -77,6 +79,13 @@ shoot_info_dialog "$info" shutterspeed_format_dialog "$out/format-shutter-speed.
 shoot_info_dialog "$info" recordrate_format_dialog "$out/format-record-rate.png"
 shoot_info_dialog "$info" frame_format_dialog "$out/format-frame.png"
 shoot_info_dialog "$info" rectime_format_dialog "$out/format-recording-time.png"
+cameras="$root/host/scenarios/camera-settings.json"
+shoot_dialog "$cameras" camerasettings:file "$out/camera-settings-file.png" "0" camerasettings_cancel
+shoot_dialog "$cameras" camerasettings:preset "$out/camera-settings-presets.png" \
+    "\$('#presets select').first().val('1').change()" camerasettings_cancel
+shoot_page "$cameras" devicelist "$out/device-list.png" devicelist
+shoot_page "$cameras" devicecontrol "$out/device-control.png" devicecontrol
+shoot_page "$cameras" selectbox:partition "$out/select-box.png"
 # The region of interest's page and its rectangle on a document, dragged by its corner.
 roi_prefs="$(mktemp -d)/prefs.ini"
 printf '[{"press": "roi"}, {"wait": 500}, {"mouse": {"document": 1, "press": [10, 10]}},
