@@ -40,7 +40,7 @@ public:
     HST_CameraState* addCamera(const HST_CameraSpec& spec);
     // A document without a camera; gives its key.
     int addFileDocument();
-    // A document without a camera, as the spec says; gives its key.
+    // A document without a camera, as the scenario gives it; gives its key.
     int addDocument(const HST_DocumentSpec& spec);
     // The document windows, which windowCount counts; without them every document counts as
     // one window.

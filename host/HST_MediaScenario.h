@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/HST_MediaSpec.h"
+#include "host/HST_MediaSetup.h"
 
 #include <QJsonValue>
 #include <QList>

@@ -2,7 +2,7 @@
 
 #include "host/HST_CameraSetup.h"
 #include "host/HST_Fault.h"
-#include "host/HST_MediaSpec.h"
+#include "host/HST_MediaSetup.h"
 #include "plugin/APP_TimeCodeRecord.h"
 #include "host/HST_ViewState.h"
 

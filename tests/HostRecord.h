@@ -61,6 +61,16 @@ struct HostRecord
             found << event.value(field).toVariant().toString();
         return found;
     }
+    // What the dialog opened by name ended with; -2 when none ended.
+    int openResult() const
+    {
+        int result = -2;
+        for (const QJsonObject& event : of(QStringLiteral("open"))) {
+            if (event.value(QStringLiteral("phase")).toString() == QLatin1String("end"))
+                result = event.value(QStringLiteral("result")).toInt();
+        }
+        return result;
+    }
     // What each js step gave back, in order.
     QStringList jsResults() const { return texts(QStringLiteral("js"), QStringLiteral("result")); }
 };

@@ -6,6 +6,7 @@
 #include "host/HST_Host.h"
 #include "host/HST_Recorder.h"
 #include "host/HST_SettingsFile.h"
+#include "tests/HostRecord.h"
 #include "tests/ScenarioHost.h"
 #include "util/APP_Exception.h"
 
@@ -90,12 +91,9 @@ private slots:
     void selectBox();
 
 private:
-    struct Run
+    struct Run : HostRecord
     {
-        int code = -1;
         int result = -2;
-        QList<QJsonObject> events;
-        QList<QJsonObject> of(const QString& call) const;
         QStringList values(const QString& call, const QString& field) const;
         bool logged(const QString& text) const;
     };
@@ -104,16 +102,6 @@ private:
 
     QTemporaryDir m_dir;
 };
-
-QList<QJsonObject> tst_CameraDevices::Run::of(const QString& call) const
-{
-    QList<QJsonObject> found;
-    for (const QJsonObject& event : events) {
-        if (event.value(QStringLiteral("call")).toString() == call)
-            found.append(event);
-    }
-    return found;
-}
 
 QStringList tst_CameraDevices::Run::values(const QString& call, const QString& field) const
 {
@@ -155,10 +143,7 @@ tst_CameraDevices::Run tst_CameraDevices::run(
     result.code = application.run();
     QCoreApplication::processEvents();
     result.events = application.recorder()->events();
-    for (const QJsonObject& event : result.of(QStringLiteral("open"))) {
-        if (event.value(QStringLiteral("phase")).toString() == QLatin1String("end"))
-            result.result = event.value(QStringLiteral("result")).toInt();
-    }
+    result.result = result.openResult();
     return result;
 }
 

@@ -118,10 +118,7 @@ tst_DialogPages::Run tst_DialogPages::run(
     // What the host posted while the dialog ended, as its window would show it next.
     QCoreApplication::processEvents();
     result.events = application.recorder()->events();
-    for (const QJsonObject& event : result.of(QStringLiteral("open"))) {
-        if (event.value(QStringLiteral("phase")).toString() == QLatin1String("end"))
-            result.result = event.value(QStringLiteral("result")).toInt();
-    }
+    result.result = result.openResult();
     for (const HST_Document* document : application.host()->openDocuments()) {
         QStringList& texts = result.items[document->key()];
         for (const QVariant& item : document->customItems()) {

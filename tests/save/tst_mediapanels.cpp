@@ -4,6 +4,7 @@
 // No password may show in anything the run writes.
 #include "host/HST_Application.h"
 #include "host/HST_Recorder.h"
+#include "tests/HostRecord.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -77,28 +78,13 @@ private slots:
     void lengthLimits();
 
 private:
-    struct Run
-    {
-        int code = -1;
-        QList<QJsonObject> events;
-        QStringList values(const QString& call, const QString& field) const;
-    };
+    using Run = HostRecord;
     Run run(const QByteArray& scenario, const QJsonArray& steps, const QString& open);
     // Nothing the run wrote holds any of the passwords.
     void verifyNoPassword(const Run& result, const QStringList& passwords) const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-QStringList tst_MediaPanels::Run::values(const QString& call, const QString& field) const
-{
-    QStringList found;
-    for (const QJsonObject& event : events) {
-        if (event.value(QStringLiteral("call")).toString() == call)
-            found << event.value(field).toVariant().toString();
-    }
-    return found;
-}
 
 void tst_MediaPanels::initTestCase()
 {
@@ -167,11 +153,11 @@ void tst_MediaPanels::sdFormat()
             js(QStringLiteral("mediaPanel.rows().length"), panel) },
         panel);
     QCOMPARE(result.code, 0);
-    QStringList shown = result.values(QStringLiteral("js"), QStringLiteral("result"));
+    QStringList shown = result.texts(QStringLiteral("js"), QStringLiteral("result"));
     shown.removeAt(1);
     QTEST(shown, "shown");
-    QTEST(result.values(QStringLiteral("formatMedia"), QStringLiteral("drive")), "formatted");
-    QCOMPARE(result.values(QStringLiteral("message"), QStringLiteral("text")),
+    QTEST(result.texts(QStringLiteral("formatMedia"), QStringLiteral("drive")), "formatted");
+    QCOMPARE(result.texts(QStringLiteral("message"), QStringLiteral("text")),
         QStringList { "All data connected to Slot 1 of Left will be deleted.<br>Is this OK?" });
 }
 
@@ -218,12 +204,12 @@ void tst_MediaPanels::storageUnitPassword()
     QFETCH(QJsonArray, steps);
     const Run result = run(scenario, steps, QStringLiteral("fileopendialog"));
     QCOMPARE(result.code, 0);
-    QTEST(result.values(QStringLiteral("message"), QStringLiteral("text")), "messages");
-    QTEST(result.values(QStringLiteral("unlockStorageUnit"), QStringLiteral("result")), "unlocked");
-    QTEST(result.values(QStringLiteral("setStorageUnitPassword"), QStringLiteral("result")), "set");
-    QTEST(result.values(QStringLiteral("openMedia"), QStringLiteral("drive")), "opened");
+    QTEST(result.texts(QStringLiteral("message"), QStringLiteral("text")), "messages");
+    QTEST(result.texts(QStringLiteral("unlockStorageUnit"), QStringLiteral("result")), "unlocked");
+    QTEST(result.texts(QStringLiteral("setStorageUnitPassword"), QStringLiteral("result")), "set");
+    QTEST(result.texts(QStringLiteral("openMedia"), QStringLiteral("drive")), "opened");
     QCOMPARE(
-        result.values(QStringLiteral("reportException"), QStringLiteral("text")), QStringList());
+        result.texts(QStringLiteral("reportException"), QStringLiteral("text")), QStringList());
     verifyNoPassword(result, { "Qz7#p", "Nw5%" });
 }
 
@@ -265,9 +251,9 @@ void tst_MediaPanels::lengthLimits()
     }
     const Run result = run(R"({"cameras": [{"name": "Left"}]})", steps, page);
     QCOMPARE(result.code, 0);
-    QCOMPARE(result.values(QStringLiteral("open"), QStringLiteral("result")).last(),
+    QCOMPARE(result.texts(QStringLiteral("open"), QStringLiteral("result")).last(),
         message.isEmpty() ? QStringLiteral("1") : QStringLiteral("0"));
-    QCOMPARE(result.values(QStringLiteral("message"), QStringLiteral("text")),
+    QCOMPARE(result.texts(QStringLiteral("message"), QStringLiteral("text")),
         message.isEmpty() ? QStringList() : QStringList { message });
     QStringList passwords;
     for (const QString& text : typed) {
