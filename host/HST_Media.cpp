@@ -6,9 +6,9 @@
 
 namespace {
 
-const quint64 megabyte = 1024 * 1024;
+const quint64 megabyte = quint64(1024) * 1024;
 // What a frame takes on a medium: one byte a pixel of a 640 x 480 frame.
-const quint64 frameBytes = 640 * 480;
+const quint64 frameBytes = quint64(640) * 480;
 
 int letterNumber(const QString& drive)
 {

@@ -29,8 +29,8 @@ QJsonObject objectAt(const QJsonValue& value, const QString& path, const QString
 {
     if (!value.isObject())
         refuse(path, QStringLiteral("expected an object"));
-    const QJsonObject object = value.toObject();
-    for (auto it = object.begin(); it != object.end(); ++it) {
+    QJsonObject object = value.toObject();
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         if (!keys.contains(it.key()))
             refuse(join(path, it.key()), QStringLiteral("unknown key"));
     }

@@ -54,10 +54,6 @@ public:
     // The record fields of the document for lists, with the list "partitions" of a map per
     // partition; convert: as a conversion lists it.
     virtual QVariantMap documentDescription(bool convert) = 0;
-    // The partition's picture drawn to the size, as a preview of that mode shows it.
-    virtual QPixmap previewPixmap(int previewMode, int width, int height, int partition,
-        int reserved, const QDateTime& dateTime)
-        = 0;
     virtual bool isMultiSkipA() = 0;
     virtual bool isMultiSkipB() = 0;
     // The document is a recording on a medium of that kind.

@@ -63,7 +63,7 @@ QString FileDialogTargets::exportFile()
         if (!group.isEmpty())
             m_host->noteGroupDirectory(group);
     }
-    const QString name = m_fileName(true);
+    QString name = m_fileName(true);
     m_host->commitPendingNames();
     return name;
 }

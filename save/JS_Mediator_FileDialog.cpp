@@ -176,7 +176,7 @@ QString JS_Mediator_FileDialog::list(bool temporary)
     SYNC_TRACE(QStringLiteral("JS_Mediator_FileDialog::list"), parameter("temporary", temporary));
     return UTL_Barrier::reported(m_host, QString(), [&] {
         m_records.setSavedCheck(m_savedCheckDone, m_savedList);
-        const QString rows = m_records.list(temporary);
+        QString rows = m_records.list(temporary);
         emit selectedDocCount(m_records.documentKeys().size());
         return rows;
     });
