@@ -210,7 +210,8 @@ void JS_Mediator_CameraSettingsDialog::ok(const QString& sendData)
         const QJsonObject data = parseObject(sendData);
         m_dialogMode = data.value(QStringLiteral("dialogMode")).toInt(m_dialogMode);
         m_presets.clear();
-        for (const QJsonValue& entry : data.value(QStringLiteral("presetList")).toArray()) {
+        const QJsonArray list = data.value(QStringLiteral("presetList")).toArray();
+        for (const QJsonValue& entry : list) {
             const QJsonObject item = entry.toObject();
             m_presets.insert(item.value(QStringLiteral("key")).toVariant().toUInt(),
                 item.value(QStringLiteral("value")).toVariant().toInt());

@@ -134,9 +134,9 @@ HST_PagePanel* HST_DialogOpener::pagePanel(const QString& name)
 }
 
 void HST_DialogOpener::setPanelHandler(
-    const QString& page, std::function<int(const QString& arg)> handler)
+    const QString& page, const std::function<int(const QString& arg)>& handler)
 {
-    m_panelHandlers.insert(page, std::move(handler));
+    m_panelHandlers.insert(page, handler);
 }
 
 QWidget* HST_DialogOpener::makePanelWidget(const QString& name, QWidget* parent)

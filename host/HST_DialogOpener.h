@@ -44,7 +44,8 @@ public:
     // The host page of a page's dock, made on first use; null for anything else.
     HST_PagePanel* pagePanel(const QString& page);
     // A panel the host places itself instead of docking it: open() hands it the argument.
-    void setPanelHandler(const QString& page, std::function<int(const QString& arg)> handler);
+    void setPanelHandler(
+        const QString& page, const std::function<int(const QString& arg)>& handler);
     // The plug-in's widget of a panel, made for the parent; null when it can't be made.
     QWidget* makePanelWidget(const QString& page, QWidget* parent);
 

@@ -15,7 +15,7 @@
 namespace {
 
 // Larger than any settings file of 256 cameras.
-const qint64 maxSettingsFileSize = 1024 * 1024;
+const qint64 maxSettingsFileSize = qint64(1024) * 1024;
 
 QMap<QString, int> settingsOf(const HST_CameraSpec& spec)
 {
