@@ -43,7 +43,7 @@ mkdir -p "$RUN"
 # speed, so only the targets that go through such a leak get it.
 # The options are our own, not inherited: a caller's ASAN_OPTIONS may well switch leaks off.
 export LSAN_OPTIONS="suppressions=$ROOT/fuzz/lsan.supp:print_suppressions=0"
-SLOW_UNWIND_TARGETS="fuzz_scenario fuzz_input_steps"
+SLOW_UNWIND_TARGETS="fuzz_scenario fuzz_input_steps fuzz_settings_file"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 
 # Runs one target; writes its verdict to $RUN/<target>.result.

@@ -3,7 +3,7 @@
 # AddressSanitizer + UndefinedBehaviorSanitizer, and each fuzz target for a bounded time.
 #   SYNC_TEST_SANITIZE=0   skips the sanitizer pass
 #   SYNC_TEST_LINT=0       skips cppcheck and clang-tidy
-#   SYNC_TEST_FUZZ_SECONDS seconds per fuzz target (default 60; 0 skips fuzzing)
+#   SYNC_TEST_FUZZ_SECONDS seconds per fuzz target (default 30; 0 skips fuzzing)
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$root"
@@ -32,7 +32,7 @@ if [ "${SYNC_TEST_SANITIZE:-1}" != 0 ]; then
     )
 fi
 
-fuzz_seconds="${SYNC_TEST_FUZZ_SECONDS:-60}"
+fuzz_seconds="${SYNC_TEST_FUZZ_SECONDS:-30}"
 if [ "$fuzz_seconds" != 0 ]; then
     stage "fuzzing"
     # Three at a time: one target (the VISA session) mostly waits on its sockets.
