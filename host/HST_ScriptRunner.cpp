@@ -577,11 +577,17 @@ void HST_ScriptRunner::fail(const QString& problem)
 {
     if (hasFailed())
         return;
-    m_failure = QStringLiteral("script step %1 %2: %3")
-                    .arg(m_index + 1)
-                    .arg(stepText(m_steps.at(m_index)), problem);
+    failWith(m_index + 1,
+        QStringLiteral("script step %1 %2: %3")
+            .arg(m_index + 1)
+            .arg(stepText(m_steps.at(m_index)), problem));
+}
+
+void HST_ScriptRunner::failWith(int index, const QString& failure)
+{
+    m_failure = failure;
     m_recorder->record(QStringLiteral("scriptError"),
-        { { QStringLiteral("index"), m_index + 1 }, { QStringLiteral("text"), m_failure } });
+        { { QStringLiteral("index"), index }, { QStringLiteral("text"), m_failure } });
     qCritical("%s", qPrintable(m_failure));
     m_finished = true;
     emit finished(false);
@@ -596,12 +602,9 @@ void HST_ScriptRunner::failLeftOpen()
     }
     if (m_stepClock.elapsed() <= m_timeoutMs)
         return;
-    m_failure = QStringLiteral("after the last step: the window \"%1\" is still open")
-                    .arg(window->windowTitle());
-    m_recorder->record(QStringLiteral("scriptError"),
-        { { QStringLiteral("index"), m_steps.size() }, { QStringLiteral("text"), m_failure } });
-    qCritical("%s", qPrintable(m_failure));
-    emit finished(false);
+    failWith(int(m_steps.size()),
+        QStringLiteral("after the last step: the window \"%1\" is still open")
+            .arg(window->windowTitle()));
 }
 
 void HST_ScriptRunner::closeModalWindows()

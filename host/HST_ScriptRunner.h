@@ -105,6 +105,8 @@ private:
     void fail(const QString& problem);
     void closeModalWindows();
     void failLeftOpen();
+    // Records and logs the failure; the run ends with it.
+    void failWith(int index, const QString& failure);
 
     HST_Recorder* m_recorder;
     QJsonArray m_steps;
